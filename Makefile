@@ -1,0 +1,37 @@
+# The front door: everything that is done with the project from a shell. Each target installs the
+# packages that it needs and that are missing (see packaging/debian-packages.txt).
+
+PACKAGES := packaging/install-packages
+SOURCES  := git ls-files '*.h' '*.cpp'
+
+.PHONY: help build test test-sanitizer format lint clean
+
+help: ## List the targets
+	@sed -n 's/^\([a-z-]*\):.*## /  make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
+
+build:
+	@$(PACKAGES) build
+	@cmake --preset normal --log-level=WARNING
+	@cmake --build --preset normal
+
+test: build ## Build everything and run every test
+	ctest --preset normal -j 2
+
+test-sanitizer: ## The same tests with AddressSanitizer and UndefinedBehaviorSanitizer
+	@$(PACKAGES) build
+	@cmake --preset sanitizer --log-level=WARNING
+	@cmake --build --preset sanitizer
+	ctest --preset sanitizer -j 2
+
+format: ## Put all sources into the project's format
+	@$(PACKAGES) lint
+	@$(SOURCES) | xargs clang-format -i
+
+lint: build ## Check the format, and the code with clang-tidy
+	@$(PACKAGES) lint bench
+	@$(SOURCES) | xargs clang-format --dry-run -Werror
+	@cmake --preset normal --log-level=WARNING
+	@run-clang-tidy -quiet -j 2 -p build/normal '^$(CURDIR)/.*\.cpp$$'
+
+clean: ## Delete everything that was built
+	rm -rf build

@@ -1,0 +1,47 @@
+# Fails when a file of the program includes a room that its own room does not build on. Includes
+# point one way: app -> ui, dialogs -> reports, scan, inventory -> core -> platform's interfaces.
+# Usage: cmake -D ROOT=<folder with the rooms> -P CheckIncludes.cmake
+
+cmake_minimum_required(VERSION 3.25)
+
+set(below_platform "platform")
+set(below_core "core;platform")
+set(below_scan "scan;${below_core}")
+set(below_inventory "inventory;${below_core}")
+set(below_reports "reports;scan;inventory;${below_core}")
+set(below_dialogs "dialogs;${below_reports}")
+set(below_ui "ui;dialogs;${below_reports}")
+set(below_app "app;ui;${below_dialogs}")
+
+set(checked 0)
+set(wrong "")
+foreach(room platform core scan inventory reports dialogs ui app)
+  file(GLOB_RECURSE sources RELATIVE "${ROOT}" "${ROOT}/${room}/*.h" "${ROOT}/${room}/*.cpp")
+  foreach(source IN LISTS sources)
+    file(STRINGS "${ROOT}/${source}" lines REGEX "^[ \t]*#[ \t]*include[ \t]*\"")
+    foreach(line IN LISTS lines)
+      math(EXPR checked "${checked} + 1")
+      string(REGEX REPLACE "^[^\"]*\"([^\"]*)\".*$" "\\1" included "${line}")
+      string(REGEX REPLACE "/.*$" "" includedRoom "${included}")
+      set(isBelow FALSE)
+      if(includedRoom IN_LIST below_${room})
+        set(isBelow TRUE)
+      endif()
+      # What one system's implementation declares stays inside platform/.
+      if(included MATCHES "^platform/(linux|windows)/" AND NOT room STREQUAL "platform")
+        set(isBelow FALSE)
+      endif()
+      if(NOT isBelow)
+        string(APPEND wrong "  ${source} includes ${included}\n")
+      endif()
+    endforeach()
+  endforeach()
+endforeach()
+
+if(checked EQUAL 0)
+  message(FATAL_ERROR "No includes found under ${ROOT}")
+endif()
+if(wrong)
+  message(FATAL_ERROR "Includes against the order of the rooms:\n${wrong}")
+endif()
+message(STATUS "${checked} includes keep to the order of the rooms")

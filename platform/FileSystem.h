@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+namespace marlo::platform {
+
+/// Names that stay the same for one file or folder whatever path leads to it: device and number.
+using FileIdentity = std::pair<std::uint64_t, std::uint64_t>;
+
+/// The names in a folder, "." and ".." left out, in no particular order.
+struct FolderEntries {
+    std::vector<std::string> files;    ///< whatever is not a folder
+    std::vector<std::string> folders;  ///< folders, and links to folders
+};
+
+/// An open folder; closed when it goes out of scope. Every routine clears `error` or sets it.
+class Folder {
+  public:
+    /// Opens the folder at `path`.
+    static Folder Open(const std::string& path, std::error_code& error);
+
+    Folder(Folder&& other) noexcept;
+    Folder& operator=(Folder&& other) noexcept;
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+    ~Folder();
+
+    /// Which folder this is, whatever path or link led to it.
+    FileIdentity Identity(std::error_code& error) const;
+
+    /// Reads the folder's entries.
+    FolderEntries Entries(std::error_code& error) const;
+
+  private:
+    explicit Folder(void* handle) : handle_(handle) {}
+
+    void* handle_;
+};
+
+/// `folder` and `name` joined by the platform's separator.
+std::string JoinPath(std::string_view folder, std::string_view name);
+
+/// Whether a file that is not a folder exists at `path`. A missing file or path is an answer, no
+/// error.
+bool IsFile(const std::string& path, std::error_code& error);
+
+/// Whether a folder exists at `path`. A missing folder or path is an answer, no error.
+bool IsFolder(const std::string& path, std::error_code& error);
+
+/// Deletes the file at `path`.
+void RemoveFile(const std::string& path, std::error_code& error);
+
+/// Gives the file at `from` the path `to`, in one step: whoever looks at `to` sees the old file or
+/// the new one. Both paths are on one volume.
+void MoveIntoPlace(const std::string& from, const std::string& to, std::error_code& error);
+
+/// The path of an existing folder or file with every link and relative step resolved.
+std::string CanonicalPath(const std::string& path, std::error_code& error);
+
+/// The folder that holds the running program, without a separator at its end; "." when the system
+/// does not tell.
+std::string ProgramFolder();
+
+}  // namespace marlo::platform

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace marlo::platform {
+
+enum class Stream { In, Out, Error };
+
+/// Whether the stream is connected to a terminal.
+bool IsTerminal(Stream stream);
+
+/// The width of the terminal behind `stream` in character cells; 80 when it does not tell.
+int TerminalWidth(Stream stream);
+
+/// From now on, the first interrupt key (Ctrl-C) is noted rather than ending the program; a second
+/// one ends it.
+void NoteInterrupts();
+
+/// Whether an interrupt was noted since `NoteInterrupts`.
+bool Interrupted();
+
+/// Reads one line from the standard input, without its line end.
+/// @return nothing at the end of the input, after an error, or when an interrupt ends the wait.
+std::optional<std::string> ReadLine();
+
+}  // namespace marlo::platform

@@ -1,0 +1,154 @@
+#include "platform/File.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+#include "platform/linux/PosixError.h"
+
+namespace marlo::platform {
+
+namespace {
+
+constexpr mode_t kNewFileMode = 0666;
+
+std::error_code CheckRegular(int handle) {
+    struct stat status {};
+    if (fstat(handle, &status) != 0)
+        return PosixError();
+    if (S_ISDIR(status.st_mode))
+        return std::make_error_code(std::errc::is_a_directory);
+    if (!S_ISREG(status.st_mode))
+        return std::make_error_code(std::errc::invalid_seek);
+    return {};
+}
+
+/// Whether the open file is still the one that `path` names.
+bool IsStillAt(int handle, const std::string& path) {
+    struct stat open {};
+    struct stat named {};
+    return fstat(handle, &open) == 0 && stat(path.c_str(), &named) == 0 &&
+           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+}
+
+/// Calls `write` with what is left of `bytes` until all is written.
+template <class WriteSome>
+std::error_code WriteAll(std::string_view bytes, WriteSome writeSome) {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const ssize_t written = writeSome(bytes.substr(done), done);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return PosixError();
+        done += static_cast<std::size_t>(written);
+    }
+    return {};
+}
+
+}  // namespace
+
+File::File(File&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
+
+File& File::operator=(File&& other) noexcept {
+    if (this != &other) {
+        Close();
+        handle_ = std::exchange(other.handle_, -1);
+    }
+    return *this;
+}
+
+File::~File() {
+    Close();
+}
+
+void File::Close() noexcept {
+    if (handle_ >= 0)
+        close(std::exchange(handle_, -1));
+}
+
+File File::Open(const std::string& path, int flags, std::error_code& error) {
+    if (path.find('\0') != std::string::npos) {
+        error = std::make_error_code(std::errc::invalid_argument);
+        return {};
+    }
+    // Without O_NONBLOCK, opening a pipe would wait for its other end.
+    File file(open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, kNewFileMode));
+    error = file.handle_ < 0 ? PosixError() : CheckRegular(file.handle_);
+    return error ? File() : std::move(file);
+}
+
+File File::OpenForReading(const std::string& path, std::error_code& error) {
+    return Open(path, O_RDONLY, error);
+}
+
+File File::OpenForUpdating(const std::string& path, std::error_code& error) {
+    return Open(path, O_RDWR | O_CREAT, error);
+}
+
+File File::OpenForAppending(const std::string& path, std::error_code& error) {
+    return Open(path, O_WRONLY | O_CREAT | O_APPEND, error);
+}
+
+File File::OpenExclusively(const std::string& path, std::error_code& error) {
+    for (;;) {
+        File file = Open(path, O_WRONLY | O_CREAT, error);
+        if (error)
+            return {};
+        if (flock(file.handle_, LOCK_EX | LOCK_NB) != 0) {
+            error = errno == EWOULDBLOCK ? std::make_error_code(std::errc::device_or_resource_busy)
+                                         : PosixError();
+            return {};
+        }
+        // Between opening and locking, the owner before us may have moved the file away.
+        if (!IsStillAt(file.handle_, path))
+            continue;
+        if (ftruncate(file.handle_, 0) != 0) {
+            error = PosixError();
+            return {};
+        }
+        return file;
+    }
+}
+
+std::size_t File::ReadAt(std::uint64_t offset, std::span<unsigned char> buffer,
+                         std::error_code& error) const {
+    error.clear();
+    std::size_t done = 0;
+    while (done < buffer.size()) {
+        const ssize_t count = pread(handle_, buffer.data() + done, buffer.size() - done,
+                                    static_cast<off_t>(offset + done));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            error = PosixError();
+        if (count <= 0)
+            break;
+        done += static_cast<std::size_t>(count);
+    }
+    return done;
+}
+
+// NOLINTBEGIN(readability-make-member-function-const): writing changes the file.
+
+void File::WriteAt(std::uint64_t offset, std::string_view bytes, std::error_code& error) {
+    error = WriteAll(bytes, [&](std::string_view rest, std::size_t done) {
+        return pwrite(handle_, rest.data(), rest.size(), static_cast<off_t>(offset + done));
+    });
+}
+
+void File::Write(std::string_view bytes, std::error_code& error) {
+    error = WriteAll(bytes, [&](std::string_view rest, std::size_t /*done*/) {
+        return write(handle_, rest.data(), rest.size());
+    });
+}
+
+void File::Flush(std::error_code& error) {
+    error = fsync(handle_) == 0 ? std::error_code() : PosixError();
+}
+
+// NOLINTEND(readability-make-member-function-const)
+
+}  // namespace marlo::platform

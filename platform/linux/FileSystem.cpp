@@ -1,0 +1,121 @@
+#include "platform/FileSystem.h"
+
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/linux/PosixError.h"
+
+namespace marlo::platform {
+
+namespace {
+
+/// Whether the status of `path` could be read. A path that leads nowhere is no error.
+bool ReadStatus(const std::string& path, struct stat& status, std::error_code& error) {
+    error.clear();
+    if (path.find('\0') != std::string::npos) {
+        error = std::make_error_code(std::errc::invalid_argument);
+        return false;
+    }
+    if (stat(path.c_str(), &status) == 0)
+        return true;
+    if (errno != ENOENT && errno != ENOTDIR)
+        error = PosixError();
+    return false;
+}
+
+bool IsFolderEntry(int folder, const dirent& entry) {
+    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN)
+        return entry.d_type == DT_DIR;
+    struct stat status {};
+    return fstatat(folder, static_cast<const char*>(entry.d_name), &status, 0) == 0 &&
+           S_ISDIR(status.st_mode);
+}
+
+}  // namespace
+
+Folder Folder::Open(const std::string& path, std::error_code& error) {
+    DIR* handle = opendir(path.c_str());
+    error = handle == nullptr ? PosixError() : std::error_code();
+    return Folder(handle);
+}
+
+Folder::Folder(Folder&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
+
+Folder& Folder::operator=(Folder&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    return *this;
+}
+
+Folder::~Folder() {
+    if (handle_ != nullptr)
+        closedir(static_cast<DIR*>(handle_));
+}
+
+FileIdentity Folder::Identity(std::error_code& error) const {
+    struct stat status {};
+    error =
+        fstat(dirfd(static_cast<DIR*>(handle_)), &status) == 0 ? std::error_code() : PosixError();
+    return {status.st_dev, status.st_ino};
+}
+
+FolderEntries Folder::Entries(std::error_code& error) const {
+    auto* const handle = static_cast<DIR*>(handle_);
+    FolderEntries entries;
+    error.clear();
+    rewinddir(handle);
+    for (;;) {
+        errno = 0;
+        const dirent* const entry = readdir(handle);
+        if (entry == nullptr) {
+            if (errno != 0)
+                error = PosixError();
+            return entries;
+        }
+        const std::string_view name = static_cast<const char*>(entry->d_name);
+        if (name == "." || name == "..")
+            continue;
+        auto& names = IsFolderEntry(dirfd(handle), *entry) ? entries.folders : entries.files;
+        names.emplace_back(name);
+    }
+}
+
+std::string JoinPath(std::string_view folder, std::string_view name) {
+    std::string path(folder);
+    if (!path.ends_with('/'))
+        path += '/';
+    return path.append(name);
+}
+
+bool IsFile(const std::string& path, std::error_code& error) {
+    struct stat status {};
+    return ReadStatus(path, status, error) && !S_ISDIR(status.st_mode);
+}
+
+bool IsFolder(const std::string& path, std::error_code& error) {
+    struct stat status {};
+    return ReadStatus(path, status, error) && S_ISDIR(status.st_mode);
+}
+
+void RemoveFile(const std::string& path, std::error_code& error) {
+    error = unlink(path.c_str()) == 0 ? std::error_code() : PosixError();
+}
+
+void MoveIntoPlace(const std::string& from, const std::string& to, std::error_code& error) {
+    error = rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : PosixError();
+}
+
+std::string CanonicalPath(const std::string& path, std::error_code& error) {
+    return std::filesystem::canonical(path, error).string();
+}
+
+std::string ProgramFolder() {
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? "." : program.parent_path().string();
+}
+
+}  // namespace marlo::platform

@@ -1,0 +1,76 @@
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "platform/FileSystem.h"
+#include "tests/support/TempFolder.h"
+
+namespace marlo::platform {
+namespace {
+
+using Names = std::vector<std::string>;
+
+class FileSystemTest : public testing::Test {
+  protected:
+    static Names Sorted(Names names) {
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    test::TempFolder folder;
+    std::error_code error;
+};
+
+TEST_F(FileSystemTest, AFoldersEntriesAreFilesAndFoldersAndLinksCountAsWhatTheyLeadTo) {
+    folder.Write("file", "");
+    folder.Write(".hidden", "");
+    folder.MakeFolder("sub");
+    std::filesystem::create_directory_symlink("sub", folder.Path("to folder"));
+    std::filesystem::create_symlink("file", folder.Path("to file"));
+    std::filesystem::create_symlink("nowhere", folder.Path("dangling"));
+    const auto entries = Folder::Open(folder.Path(), error).Entries(error);
+    EXPECT_FALSE(error);
+    EXPECT_EQ(Sorted(entries.files), (Names{".hidden", "dangling", "file", "to file"}));
+    EXPECT_EQ(Sorted(entries.folders), (Names{"sub", "to folder"}));
+}
+
+TEST_F(FileSystemTest, AFolderIsTheSameWhateverPathLeadsToIt) {
+    folder.MakeFolder("sub");
+    std::filesystem::create_directory_symlink("sub", folder.Path("link"));
+    const auto direct = Folder::Open(folder.Path("sub"), error).Identity(error);
+    const auto linked = Folder::Open(folder.Path("link"), error).Identity(error);
+    const auto other = Folder::Open(folder.Path(), error).Identity(error);
+    EXPECT_EQ(direct, linked);
+    EXPECT_NE(direct, other);
+}
+
+TEST_F(FileSystemTest, OpeningWhatIsNoFolderFails) {
+    Folder::Open(folder.Write("file", ""), error);
+    EXPECT_EQ(error, std::errc::not_a_directory);
+    Folder::Open(folder.Path("gone"), error);
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+}
+
+TEST_F(FileSystemTest, PathsAreJoinedByOneSeparator) {
+    EXPECT_EQ(JoinPath("/songs", "a.cpr"), "/songs/a.cpr");
+    EXPECT_EQ(JoinPath("/songs/", "a.cpr"), "/songs/a.cpr");
+    EXPECT_EQ(JoinPath("/", "a.cpr"), "/a.cpr");
+}
+
+TEST_F(FileSystemTest, MovingIntoPlaceReplacesAFile) {
+    folder.Write("old", "old");
+    MoveIntoPlace(folder.Write("new", "new"), folder.Path("old"), error);
+    EXPECT_FALSE(error);
+    EXPECT_EQ(folder.Read("old"), "new");
+    EXPECT_FALSE(folder.Exists("new"));
+}
+
+TEST_F(FileSystemTest, TheProgramsFolderHoldsTheRunningProgram) {
+    EXPECT_TRUE(IsFile(JoinPath(ProgramFolder(), MARLO_TEST_PROGRAM), error));
+}
+
+}  // namespace
+}  // namespace marlo::platform

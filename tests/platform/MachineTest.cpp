@@ -1,0 +1,86 @@
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "platform/Machine.h"
+#include "platform/linux/LinuxClock.h"
+#include "tests/support/TempFolder.h"
+
+namespace marlo::platform {
+namespace {
+
+class DesktopTest : public testing::Test {
+  protected:
+    std::string Describe(const std::string& path) {
+        return SystemDesktop().FileTypeDescription(path, error);
+    }
+
+    test::TempFolder folder;
+    std::error_code error;
+};
+
+TEST_F(DesktopTest, ARegularFileWithTheExtensionIsACprFileWhateverItsCase) {
+    for (const char* name : {"a.cpr", "b.CPR", "c.CpR", ".cpr", "d.txt.cpr"})
+        EXPECT_EQ(Describe(folder.Write(name, "")), "CPR File") << name;
+}
+
+TEST_F(DesktopTest, OtherFilesHaveNoDescription) {
+    for (const char* name : {"a.txt", "cpr", "a.cpr.bak", "a.cprx", "a"})
+        EXPECT_EQ(Describe(folder.Write(name, "")), "") << name;
+}
+
+TEST_F(DesktopTest, AFolderOrALinkToNowhereIsNoProjectAndNoFailure) {
+    EXPECT_EQ(Describe(folder.MakeFolder("folder.cpr")), "");
+    std::filesystem::create_symlink("nowhere", folder.Path("dangling.cpr"));
+    EXPECT_EQ(Describe(folder.Path("dangling.cpr")), "");
+    std::filesystem::create_symlink("self.cpr", folder.Path("self.cpr"));
+    EXPECT_EQ(Describe(folder.Path("self.cpr")), "");
+    EXPECT_FALSE(error);
+}
+
+TEST_F(DesktopTest, ALinkToAProjectIsAProject) {
+    folder.Write("real.cpr", "");
+    std::filesystem::create_symlink("real.cpr", folder.Path("link.cpr"));
+    EXPECT_EQ(Describe(folder.Path("link.cpr")), "CPR File");
+}
+
+TEST_F(DesktopTest, AFileThatCannotBeAskedAboutIsAnError) {
+    Describe(folder.Path(std::string(300, 'x') + ".cpr"));
+    EXPECT_EQ(error, std::errc::filename_too_long);
+}
+
+TEST(ClockTest, TheClockTellsTheLocalTime) {
+    const std::time_t before = std::time(nullptr);
+    std::tm now = SystemClock().Now();
+    const std::time_t told = std::mktime(&now);
+    EXPECT_GE(told, before);
+    EXPECT_LE(told, std::time(nullptr));
+}
+
+TEST(ClockTest, DatesAndTimesHaveTheFormOfTheUsersLocale) {
+    // The plain locale is the one that is installed everywhere.
+    setenv("LC_ALL", "C", 1);
+    std::tm moment{};
+    moment.tm_year = 126;
+    moment.tm_mon = 10;
+    moment.tm_mday = 15;
+    moment.tm_hour = 3;
+    moment.tm_min = 10;
+    moment.tm_sec = 22;
+    EXPECT_EQ(LinuxClock().TimeText(moment), "03:10:22");
+    EXPECT_EQ(LinuxClock().ShortDateText(moment), "11/15/26");
+}
+
+TEST(ClockTest, ALocaleThatIsNotInstalledFallsBackToThePlainForm) {
+    setenv("LC_ALL", "xx_XX.UTF-8", 1);
+    std::tm moment{};
+    moment.tm_year = 126;
+    moment.tm_mday = 1;
+    EXPECT_EQ(LinuxClock().ShortDateText(moment), "01/01/26");
+}
+
+}  // namespace
+}  // namespace marlo::platform

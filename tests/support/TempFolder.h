@@ -1,0 +1,50 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace marlo::test {
+
+/// A new folder for one test, deleted with everything in it when the test ends.
+class TempFolder {
+  public:
+    TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+    TempFolder(TempFolder&&) = delete;
+    TempFolder& operator=(TempFolder&&) = delete;
+    ~TempFolder();
+
+    /// The full path of `name` in the folder; of the folder itself without a name.
+    std::string Path(const std::string& name = "") const;
+
+    /// Writes a file, making the folders it needs.
+    /// @return its full path.
+    std::string Write(const std::string& name, std::string_view bytes) const;
+
+    /// Makes a folder. @return its full path.
+    std::string MakeFolder(const std::string& name) const;
+
+    /// The bytes of a file; fails the test when there is no such file.
+    std::string Read(const std::string& name) const;
+
+    bool Exists(const std::string& name) const;
+
+  private:
+    std::filesystem::path path_;
+};
+
+/// Makes this process an ordinary user for as long as it lives: the permissions of files, which a
+/// super-user passes by, count. Takes effect for this thread only.
+class OrdinaryUser {
+  public:
+    OrdinaryUser();
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+    OrdinaryUser(OrdinaryUser&&) = delete;
+    OrdinaryUser& operator=(OrdinaryUser&&) = delete;
+    ~OrdinaryUser();
+};
+
+}  // namespace marlo::test
