@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/Clock.h"
+#include "platform/Desktop.h"
+
+namespace marlo {
+
+/// One entry of the error log.
+struct ErrorEntry {
+    std::string procedure;
+    std::int32_t number = 0;
+    std::string description;
+};
+
+/// What every routine knows of the running program: where its files lie and what machine it is on.
+/// Outlives whatever uses it.
+struct Application {
+    std::string folder;  ///< the application folder, without a separator at its end
+    const platform::Clock& clock;
+    const platform::Desktop& desktop;
+    /// Told of each entry that goes to the error log, if set.
+    std::function<void(const ErrorEntry&)> onErrorLogged;
+};
+
+/// The title of message boxes that have none of their own.
+inline constexpr std::string_view kApplicationTitle = "Marlo";
+
+/// The full path of a file under the application folder.
+///
+/// The result folder goes by several spellings ("\resultfiles\", "\Resultfiles\"); on a file system
+/// that tells them apart, the folder is found without regard to case.
+///
+/// @param relativePath names joined by "\", with a "\" in front, for example
+///        "\resultfiles\results.csv".
+std::string ApplicationPath(const Application& application, std::string_view relativePath);
+
+}  // namespace marlo

@@ -1,0 +1,156 @@
+#include "core/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+
+#include "platform/AnsiCodePage.h"
+
+namespace marlo {
+
+namespace {
+
+struct Utf8Form {
+    int length = 0;             ///< bytes
+    char32_t leadBits = 0;      ///< the first byte's share of the character
+    char32_t smallestCode = 0;  ///< below it, the form would be longer than needed
+};
+
+std::optional<Utf8Form> FormOf(unsigned char lead) {
+    if (lead < 0x80)
+        return Utf8Form{1, lead, 0};
+    if ((lead & 0xE0U) == 0xC0)
+        return Utf8Form{2, lead & 0x1FU, 0x80};
+    if ((lead & 0xF0U) == 0xE0)
+        return Utf8Form{3, lead & 0x0FU, 0x800};
+    if ((lead & 0xF8U) == 0xF0)
+        return Utf8Form{4, lead & 0x07U, 0x10000};
+    return std::nullopt;
+}
+
+bool IsScalarValue(char32_t code) {
+    return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF);
+}
+
+std::optional<std::u32string> DecodeUtf8(std::string_view text) {
+    std::u32string decoded;
+    decoded.reserve(text.size());
+    while (!text.empty()) {
+        const auto form = FormOf(static_cast<unsigned char>(text.front()));
+        if (!form || text.size() < static_cast<std::size_t>(form->length))
+            return std::nullopt;
+        char32_t code = form->leadBits;
+        for (int i = 1; i < form->length; ++i) {
+            const auto byte = static_cast<unsigned char>(text[static_cast<std::size_t>(i)]);
+            if ((byte & 0xC0U) != 0x80)
+                return std::nullopt;
+            code = (code << 6U) | (byte & 0x3FU);
+        }
+        if (code < form->smallestCode || !IsScalarValue(code))
+            return std::nullopt;
+        decoded += code;
+        text.remove_prefix(static_cast<std::size_t>(form->length));
+    }
+    return decoded;
+}
+
+/// A stretch of lower-case letters and where their upper-case forms are.
+struct CaseRange {
+    char32_t first;
+    char32_t last;
+    int step;    ///< 1: every character is a small letter; 2: every second one, from `first` on
+    int offset;  ///< from a small letter to its capital
+};
+
+constexpr std::array kCaseRanges = {
+    CaseRange{'a', 'z', 1, -32},      CaseRange{0xE0, 0xF6, 1, -32},
+    CaseRange{0xF8, 0xFE, 1, -32},    CaseRange{0xFF, 0xFF, 1, 121},
+    CaseRange{0x101, 0x12F, 2, -1},   CaseRange{0x133, 0x137, 2, -1},
+    CaseRange{0x13A, 0x148, 2, -1},   CaseRange{0x14B, 0x177, 2, -1},
+    CaseRange{0x17A, 0x17E, 2, -1},   CaseRange{0x192, 0x192, 1, -1},
+    CaseRange{0x1A1, 0x1A5, 2, -1},   CaseRange{0x1B0, 0x1B0, 1, -1},
+    CaseRange{0x1CE, 0x1DC, 2, -1},   CaseRange{0x1DF, 0x1EF, 2, -1},
+    CaseRange{0x1F9, 0x21F, 2, -1},   CaseRange{0x223, 0x233, 2, -1},
+    CaseRange{0x3AC, 0x3AC, 1, -38},  CaseRange{0x3AD, 0x3AF, 1, -37},
+    CaseRange{0x3B1, 0x3C1, 1, -32},  CaseRange{0x3C2, 0x3C2, 1, -31},
+    CaseRange{0x3C3, 0x3CB, 1, -32},  CaseRange{0x3CC, 0x3CC, 1, -64},
+    CaseRange{0x3CD, 0x3CE, 1, -63},  CaseRange{0x430, 0x44F, 1, -32},
+    CaseRange{0x450, 0x45F, 1, -80},  CaseRange{0x461, 0x481, 2, -1},
+    CaseRange{0x48B, 0x4BF, 2, -1},   CaseRange{0x4C2, 0x4CE, 2, -1},
+    CaseRange{0x4CF, 0x4CF, 1, -15},  CaseRange{0x4D1, 0x52F, 2, -1},
+    CaseRange{0x561, 0x586, 1, -48},  CaseRange{0x1E01, 0x1E95, 2, -1},
+    CaseRange{0x1EA1, 0x1EFF, 2, -1},
+};
+
+}  // namespace
+
+std::u32string Decode(std::string_view field) {
+    auto decoded = DecodeUtf8(field);
+    return decoded ? std::move(*decoded) : platform::DecodeAnsi(field);
+}
+
+std::string EncodeUtf8(std::u32string_view text) {
+    std::string encoded;
+    encoded.reserve(text.size());
+    const auto append = [&](char32_t byte) { encoded += static_cast<char>(byte); };
+    const auto appendRest = [&](char32_t code, unsigned shift) {
+        append(0x80U | ((code >> shift) & 0x3FU));
+    };
+    for (const char32_t code : text) {
+        if (code < 0x80) {
+            append(code);
+        } else if (code < 0x800) {
+            append(0xC0U | (code >> 6U));
+            appendRest(code, 0);
+        } else if (code < 0x10000) {
+            append(0xE0U | (code >> 12U));
+            appendRest(code, 6);
+            appendRest(code, 0);
+        } else {
+            append(0xF0U | (code >> 18U));
+            appendRest(code, 12);
+            appendRest(code, 6);
+            appendRest(code, 0);
+        }
+    }
+    return encoded;
+}
+
+char32_t UpperCase(char32_t character) {
+    const auto* const range =
+        std::lower_bound(kCaseRanges.begin(), kCaseRanges.end(), character,
+                         [](const CaseRange& candidate, char32_t c) { return candidate.last < c; });
+    if (range == kCaseRanges.end() || character < range->first)
+        return character;
+    if ((character - range->first) % static_cast<char32_t>(range->step) != 0)
+        return character;
+    return static_cast<char32_t>(static_cast<int>(character) + range->offset);
+}
+
+std::u32string UpperCase(std::u32string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char32_t character) { return UpperCase(character); });
+    return text;
+}
+
+bool EqualIgnoringCase(std::string_view left, std::string_view right) {
+    return UpperCase(Decode(left)) == UpperCase(Decode(right));
+}
+
+std::string_view TrimSpaces(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+double LeadingNumber(std::string_view text) {
+    const std::string_view trimmed = TrimSpaces(text);
+    double number = 0;
+    std::from_chars(trimmed.data(), trimmed.data() + trimmed.size(), number,
+                    std::chars_format::fixed);
+    return number;
+}
+
+}  // namespace marlo

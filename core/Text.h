@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace marlo {
+
+// A field of a result file, a path or a setting is a byte string and stays one. These routines
+// decode it where a person reads it, and where characters rather than bytes count.
+
+/// A field as characters: valid UTF-8 as UTF-8, anything else in the system's ANSI code page.
+std::u32string Decode(std::string_view field);
+
+/// Characters as UTF-8.
+std::string EncodeUtf8(std::u32string_view text);
+
+/// A field as UTF-8 for display (see `Decode`).
+inline std::string DecodeToUtf8(std::string_view field) {
+    return EncodeUtf8(Decode(field));
+}
+
+/// The upper-case form of a character of the Latin, Greek, Cyrillic and Armenian scripts where
+/// that is one character, else the character itself (so ß stays). Does not depend on the locale.
+char32_t UpperCase(char32_t character);
+
+/// `text` in upper case, character by character.
+std::u32string UpperCase(std::u32string text);
+
+/// Whether two fields are the same text but for the case of their characters.
+bool EqualIgnoringCase(std::string_view left, std::string_view right);
+
+/// `text` without the spaces at both ends. Other white space stays.
+std::string_view TrimSpaces(std::string_view text);
+
+/// The number that `text` starts with, after spaces; 0 when it starts with none.
+double LeadingNumber(std::string_view text);
+
+}  // namespace marlo

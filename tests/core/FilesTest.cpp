@@ -1,0 +1,209 @@
+#include <filesystem>
+#include <string>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "core/Files.h"
+#include "core/RunTimeError.h"
+#include "tests/support/ApplicationTest.h"
+
+namespace marlo {
+namespace {
+
+using std::filesystem::permissions;
+using std::filesystem::perms;
+
+constexpr const char* kResults = "\\resultfiles\\results.csv";
+
+class FilesTest : public test::ApplicationTest {
+  protected:
+    /// Makes the result folder one whose files an ordinary user may neither delete nor replace,
+    /// though new ones may be made: what a file held by another program looks like.
+    void HoldResults() const { SetResultFolder(perms{01777}); }
+    void FreeResults() const { SetResultFolder(perms{0777}); }
+
+    void SetResultFolder(perms mode) const {
+        permissions(folder.Path(), perms{0755});
+        permissions(folder.Path("resultfiles"), mode);
+    }
+
+    std::string ResultsPath() const { return folder.Path("resultfiles/results.csv"); }
+
+    std::string Question() const {
+        return "The file " + ResultsPath() +
+               " is being used by another program. Close that program and click Ok to continue";
+    }
+};
+
+/// The same with this process as an ordinary user; only a super-user can make another user's file.
+class HeldFileTest : public FilesTest {
+  protected:
+    void SetUp() override {
+        if (getuid() != 0)
+            GTEST_SKIP() << "needs a file that belongs to another user";
+        folder.Write("resultfiles/results.csv", "old");
+        HoldResults();
+    }
+};
+
+TEST_F(FilesTest, FileExistsTellsFilesFromFoldersAndNothing) {
+    EXPECT_TRUE(FileExists(application, folder.Write("a.csv", "")));
+    EXPECT_FALSE(FileExists(application, folder.Path("b.csv")));
+    EXPECT_FALSE(FileExists(application, folder.Path("a.csv/b.csv")));
+    EXPECT_FALSE(FileExists(application, folder.Path("resultfiles")));
+    EXPECT_FALSE(FileExists(application, ""));
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(FilesTest, FileExistsLogsAPathThatCannotBeAskedAbout) {
+    const std::string path = folder.Path(std::string(300, 'x'));
+    EXPECT_FALSE(FileExists(application, path));
+    EXPECT_EQ(Log(), LogLine("FileExists: " + path, 52, "Bad file name or number"));
+}
+
+TEST_F(FilesTest, AskCloseFileInUseOnAMissingFileShowsNothingAndLeavesTheAnswer) {
+    MessageAnswer answer = MessageAnswer::No;
+    AskCloseFileInUse(application, window, kResults, answer);
+    EXPECT_EQ(answer, MessageAnswer::No);
+    EXPECT_TRUE(window.events.empty());
+}
+
+TEST_F(FilesTest, AskCloseFileInUseDeletesAFreeFileWithoutAWord) {
+    folder.Write("resultfiles/results.csv", "old");
+    MessageAnswer answer = MessageAnswer::None;
+    AskCloseFileInUse(application, window, kResults, answer);
+    EXPECT_EQ(answer, MessageAnswer::None);
+    EXPECT_FALSE(folder.Exists("resultfiles/results.csv"));
+    EXPECT_TRUE(window.events.empty());
+}
+
+TEST_F(FilesTest, AskCloseFileInUseLeavesAFolderOfThatNameAlone) {
+    folder.MakeFolder("resultfiles/results.csv");
+    MessageAnswer answer = MessageAnswer::None;
+    AskCloseFileInUse(application, window, kResults, answer);
+    EXPECT_TRUE(folder.Exists("resultfiles/results.csv"));
+    EXPECT_TRUE(window.events.empty());
+}
+
+TEST_F(HeldFileTest, AskCloseFileInUseStopsAtCancel) {
+    const test::OrdinaryUser user;
+    window.answers = {MessageAnswer::Ok, MessageAnswer::Cancel};
+    MessageAnswer answer = MessageAnswer::None;
+    AskCloseFileInUse(application, window, kResults, answer);
+    EXPECT_EQ(answer, MessageAnswer::Cancel);
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
+    EXPECT_EQ(window.MessageTexts(), (std::vector{Question(), Question()}));
+    EXPECT_EQ(window.messages[0].buttons, MessageButtons::OkCancel);
+    EXPECT_EQ(window.messages[0].icon, MessageIcon::Exclamation);
+    EXPECT_EQ(window.messages[0].title, "");
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(HeldFileTest, AskCloseFileInUseDeletesOnceTheFileIsFree) {
+    window.onMessage = [&](const Message&) {
+        if (seteuid(0) == 0)
+            FreeResults();
+    };
+    MessageAnswer answer = MessageAnswer::None;
+    {
+        const test::OrdinaryUser user;
+        AskCloseFileInUse(application, window, kResults, answer);
+    }
+    EXPECT_EQ(answer, MessageAnswer::Ok);
+    EXPECT_FALSE(folder.Exists("resultfiles/results.csv"));
+    EXPECT_EQ(window.messages.size(), 1U);
+}
+
+TEST_F(FilesTest, AStagedFileIsNotSeenBeforeItIsInPlace) {
+    folder.Write("resultfiles/results.csv", "old");
+    StagedFile file(application, kResults);
+    file.WriteLine("new");
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
+    EXPECT_TRUE(file.MoveIntoPlace(window));
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
+    EXPECT_TRUE(window.events.empty());
+}
+
+TEST_F(FilesTest, AStagedFileThatIsGivenUpLeavesNothingBehind) {
+    folder.Write("resultfiles/results.csv", "old");
+    { StagedFile(application, kResults).WriteLine("new"); }
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
+    EXPECT_FALSE(folder.Exists("resultfiles/results.csv.new"));
+}
+
+TEST_F(FilesTest, WhatAKilledRunLeftIsOverwritten) {
+    folder.Write("resultfiles/results.csv.new", std::string(1000, 'x'));
+    StagedFile file(application, kResults);
+    file.WriteLine("new");
+    EXPECT_TRUE(file.MoveIntoPlace(window));
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
+}
+
+TEST_F(FilesTest, TwoProgramsDoNotStageTheSameFileAtOnce) {
+    const StagedFile first(application, kResults);
+    try {
+        const StagedFile second(application, kResults);
+        FAIL() << "the second one was let in";
+    } catch (const RunTimeError& failure) {
+        EXPECT_EQ(failure.Number(), ErrorNumber::PermissionDenied);
+    }
+}
+
+TEST_F(FilesTest, AStagedFileLargerThanItsBufferIsWhole) {
+    std::string expected;
+    StagedFile file(application, kResults);
+    for (int i = 0; i < 50000; ++i) {
+        file.WriteLine("line " + std::to_string(i));
+        expected += "line " + std::to_string(i) + "\r\n";
+    }
+    file.MoveIntoPlace(window);
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), expected);
+}
+
+TEST_F(FilesTest, AFolderInTheFilesPlaceIsAFailureWithoutAQuestion) {
+    folder.MakeFolder("resultfiles/results.csv");
+    StagedFile file(application, kResults);
+    EXPECT_THROW(file.MoveIntoPlace(window), RunTimeError);
+    EXPECT_TRUE(window.events.empty());
+}
+
+TEST_F(FilesTest, WithoutTheResultFolderThePathIsNotFound) {
+    std::filesystem::remove_all(folder.Path("resultfiles"));
+    try {
+        const StagedFile file(application, kResults);
+        FAIL() << "made without a folder";
+    } catch (const RunTimeError& failure) {
+        EXPECT_EQ(failure.Number(), ErrorNumber::PathNotFound);
+    }
+}
+
+TEST_F(HeldFileTest, AStagedFileLeavesTheOldOneWhenTheUserCancels) {
+    const test::OrdinaryUser user;
+    window.answers = {MessageAnswer::Cancel};
+    {
+        StagedFile file(application, kResults);
+        file.WriteLine("new");
+        EXPECT_FALSE(file.MoveIntoPlace(window));
+    }
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
+    EXPECT_FALSE(folder.Exists("resultfiles/results.csv.new"));
+    EXPECT_EQ(window.MessageTexts(), std::vector{Question()});
+}
+
+TEST_F(HeldFileTest, AStagedFileTakesItsPlaceOnceTheOldOneIsFree) {
+    window.onMessage = [&](const Message&) {
+        if (seteuid(0) == 0)
+            FreeResults();
+    };
+    {
+        const test::OrdinaryUser user;
+        StagedFile file(application, kResults);
+        file.WriteLine("new");
+        EXPECT_TRUE(file.MoveIntoPlace(window));
+    }
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
+}
+
+}  // namespace
+}  // namespace marlo

@@ -1,0 +1,111 @@
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "core/Settings.h"
+#include "tests/support/ApplicationTest.h"
+
+namespace marlo {
+namespace {
+
+class SettingsTest : public test::ApplicationTest {};
+
+TEST_F(SettingsTest, ReadingFromAMissingFileGivesEmptyTextAndMakesTheFile) {
+    EXPECT_EQ(getSetting(application, 11), "");
+    EXPECT_EQ(folder.Read("settings.ini"), "");
+}
+
+TEST_F(SettingsTest, ReadingRecord11FromAnEmptyFileGivesEmptyText) {
+    folder.Write("settings.ini", "");
+    EXPECT_EQ(getSetting(application, 11), "");
+}
+
+TEST_F(SettingsTest, WritingRecord50ToAnEmptyFileGivesFiftyRecordsWithZerosInFront) {
+    ASSERT_TRUE(WriteSetting(application, 50, "C:\\VstPlugins"));
+    const std::string bytes = folder.Read("settings.ini");
+    const std::size_t recordsInFront = std::size_t{49} * 256;
+    EXPECT_EQ(bytes.size(), recordsInFront + 256);
+    EXPECT_EQ(bytes.substr(0, recordsInFront), std::string(recordsInFront, '\0'));
+    EXPECT_EQ(bytes.substr(recordsInFront), "C:\\VstPlugins" + std::string(256 - 13, ' '));
+    for (std::int16_t record = 1; record < 50; ++record)
+        EXPECT_EQ(getSetting(application, record), "") << record;
+    EXPECT_EQ(getSetting(application, 50), "C:\\VstPlugins");
+}
+
+TEST_F(SettingsTest, SpacesAtTheEndsOfAValueAreNotReadBack) {
+    WriteSetting(application, 4, "  x");
+    EXPECT_EQ(getSetting(application, 4), "x");
+}
+
+TEST_F(SettingsTest, AValueOf300CharactersIsReadBackAsItsFirst256) {
+    const std::string value = " " + std::string(299, 'v');
+    WriteSetting(application, 1, value);
+    EXPECT_EQ(folder.Read("settings.ini").size(), 256U);
+    EXPECT_EQ(getSetting(application, 1), std::string(255, 'v'));
+}
+
+TEST_F(SettingsTest, WritingARecordLeavesItsNeighboursAlone) {
+    WriteSetting(application, 1, "one");
+    WriteSetting(application, 2, "two");
+    WriteSetting(application, 3, "three");
+    WriteSetting(application, 2, "2");
+    EXPECT_EQ(getSetting(application, 1), "one");
+    EXPECT_EQ(getSetting(application, 2), "2");
+    EXPECT_EQ(getSetting(application, 3), "three");
+}
+
+TEST_F(SettingsTest, AValueIsKeptByteForByte) {
+    WriteSetting(application, 1, "D:\\R\xE9verb, \"x\"\t");
+    EXPECT_EQ(getSetting(application, 1), "D:\\R\xE9verb, \"x\"\t");
+}
+
+TEST_F(SettingsTest, ACutLastRecordIsReadAsFarAsItGoes) {
+    folder.Write("settings.ini", std::string(256, ' ') + "cut");
+    EXPECT_EQ(getSetting(application, 2), "cut");
+}
+
+TEST_F(SettingsTest, ARecordOfSpacesThenANulIsEmpty) {
+    folder.Write("settings.ini", std::string(" \0x", 3));
+    EXPECT_EQ(getSetting(application, 1), "");
+}
+
+TEST_F(SettingsTest, RecordZeroIsLoggedAndGivesNothing) {
+    EXPECT_EQ(getSetting(application, 0), "");
+    EXPECT_FALSE(WriteSetting(application, -1, "x"));
+    EXPECT_EQ(Log(), LogLine("getSetting", 63, "Bad record number") +
+                         LogLine("WriteSetting", 63, "Bad record number"));
+    EXPECT_FALSE(folder.Exists("settings.ini"));
+}
+
+TEST_F(SettingsTest, AFolderInTheFilesPlaceIsLoggedAndNothingIsShown) {
+    folder.MakeFolder("settings.ini");
+    EXPECT_EQ(getSetting(application, 1), "");
+    EXPECT_FALSE(WriteSetting(application, 1, "x"));
+    EXPECT_EQ(Log(), LogLine("getSetting", 75, "Path/File access error") +
+                         LogLine("WriteSetting", 75, "Path/File access error"));
+}
+
+TEST_F(SettingsTest, AFileThatMayNotBeWrittenCanStillBeRead) {
+    WriteSetting(application, 1, "kept");
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms{0755});
+    std::filesystem::permissions(folder.Path("settings.ini"), std::filesystem::perms{0444});
+    std::filesystem::permissions(folder.Path("resultfiles"), std::filesystem::perms{0777});
+    {
+        const test::OrdinaryUser user;
+        EXPECT_EQ(getSetting(application, 1), "kept");
+        EXPECT_FALSE(WriteSetting(application, 1, "changed"));
+    }
+    EXPECT_EQ(getSetting(application, 1), "kept");
+    EXPECT_EQ(Log(), LogLine("WriteSetting", 70, "Permission denied"));
+}
+
+TEST_F(SettingsTest, AMissingApplicationFolderGivesEmptyTextAndFalse) {
+    const Application lost{folder.Path("gone"), clock, desktop, {}};
+    EXPECT_EQ(getSetting(lost, 1), "");
+    EXPECT_FALSE(WriteSetting(lost, 1, "x"));
+    EXPECT_FALSE(folder.Exists("gone"));
+}
+
+}  // namespace
+}  // namespace marlo

@@ -1,0 +1,124 @@
+#include "tests/support/Fakes.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+namespace marlo::test {
+
+namespace {
+
+std::string Format(const std::tm& moment, const char* format) {
+    std::array<char, 32> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), format, &moment)};
+}
+
+MessageAnswer FirstButton(MessageButtons buttons) {
+    const bool yesFirst =
+        buttons == MessageButtons::YesNo || buttons == MessageButtons::YesNoCancel;
+    return yesFirst ? MessageAnswer::Yes : MessageAnswer::Ok;
+}
+
+}  // namespace
+
+std::tm FakeClock::Now() const {
+    std::tm moment{};
+    moment.tm_year = 2026 - 1900;
+    moment.tm_mon = 11 - 1;
+    moment.tm_mday = 15;
+    moment.tm_hour = 3;
+    moment.tm_min = 10;
+    moment.tm_sec = 22;
+    return moment;
+}
+
+std::string FakeClock::TimeText(const std::tm& moment) const {
+    return Format(moment, "%H:%M:%S");
+}
+
+std::string FakeClock::ShortDateText(const std::tm& moment) const {
+    return Format(moment, "%d/%m/%Y");
+}
+
+std::string FakeDesktop::FileTypeDescription(const std::string& path,
+                                             std::error_code& error) const {
+    const std::filesystem::path file = path;
+    error.clear();
+    if (unreadable.contains(file.filename().string()))
+        error = std::make_error_code(std::errc::permission_denied);
+    const auto found = descriptions.find(file.extension().string());
+    return error || found == descriptions.end() ? "" : found->second;
+}
+
+void RecordingWindow::SetText1(const std::string& text) {
+    text1 = text;
+    events.push_back("Text1: " + text);
+}
+
+void RecordingWindow::SetText2(const std::string& text) {
+    text2 = text;
+    events.push_back("Text2: " + text);
+}
+
+void RecordingWindow::ClearStatusBar() {
+    text1.clear();
+    text2.clear();
+    events.emplace_back("ClearStatusBar");
+}
+
+void RecordingWindow::Repaint() {
+    events.emplace_back("Repaint");
+}
+
+void RecordingWindow::LetEventsRun() {
+    events.emplace_back("Events");
+    if (onEvents)
+        onEvents();
+}
+
+void RecordingWindow::DisableButtons() {
+    events.emplace_back("DisableButtons");
+}
+
+void RecordingWindow::EnableButtons() {
+    events.emplace_back("EnableButtons");
+}
+
+MessageAnswer RecordingWindow::ShowMessage(const Message& message) {
+    events.push_back("Message: " + message.text);
+    messages.push_back(message);
+    if (onMessage)
+        onMessage(message);
+    if (answers.empty())
+        return FirstButton(message.buttons);
+    const MessageAnswer answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+std::string RecordingWindow::PickFolder(const std::string& prompt, const std::string& startFolder) {
+    events.push_back("PickFolder: " + prompt + " " + startFolder);
+    return folder;
+}
+
+std::vector<std::string> RecordingWindow::MessageTexts() const {
+    std::vector<std::string> texts;
+    for (const Message& message : messages)
+        texts.push_back(message.text);
+    return texts;
+}
+
+std::vector<std::string> RecordingWindow::Phases() const {
+    const std::string prefix = "Text1: ";
+    std::vector<std::string> phases;
+    for (const std::string& event : events)
+        if (event.starts_with(prefix) && event.size() > prefix.size())
+            phases.push_back(event.substr(prefix.size()));
+    return phases;
+}
+
+std::size_t RecordingWindow::Count(const std::string& event) const {
+    return static_cast<std::size_t>(std::count(events.begin(), events.end(), event));
+}
+
+}  // namespace marlo::test

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "core/MainWindow.h"
+#include "platform/Clock.h"
+#include "platform/Desktop.h"
+
+namespace marlo::test {
+
+/// A clock that stands still at 03:10:22 on 15 November 2026 and writes dates the British way.
+class FakeClock final : public platform::Clock {
+  public:
+    std::tm Now() const override;
+    std::string TimeText(const std::tm& moment) const override;
+    std::string ShortDateText(const std::tm& moment) const override;
+};
+
+/// A desktop that describes files by their extensions.
+class FakeDesktop final : public platform::Desktop {
+  public:
+    std::string FileTypeDescription(const std::string& path, std::error_code& error) const override;
+
+    /// From an extension, with its dot, to the type's description.
+    std::map<std::string, std::string> descriptions = {{".cpr", "CPR File"}, {".CPR", "CPR File"}};
+    /// The names of files that cannot be asked about.
+    std::set<std::string> unreadable;
+};
+
+/// A window that writes down what it is asked, in `events`, one line each: "Text1: …",
+/// "Text2: …", "ClearStatusBar", "Repaint", "Events", "DisableButtons", "EnableButtons",
+/// "PickFolder: <prompt> <start folder>", "Message: <text>".
+class RecordingWindow final : public MainWindow {
+  public:
+    void SetText1(const std::string& text) override;
+    void SetText2(const std::string& text) override;
+    void ClearStatusBar() override;
+    void Repaint() override;
+    void LetEventsRun() override;
+    std::string CancelTag() const override { return cancelTag; }
+    void SetCancelTag(const std::string& tag) override { cancelTag = tag; }
+    void DisableButtons() override;
+    void EnableButtons() override;
+    MessageAnswer ShowMessage(const Message& message) override;
+    std::string PickFolder(const std::string& prompt, const std::string& startFolder) override;
+
+    /// The texts of the messages shown.
+    std::vector<std::string> MessageTexts() const;
+    /// The texts that the first status box showed, "" left out.
+    std::vector<std::string> Phases() const;
+    /// How often `event` was written down.
+    std::size_t Count(const std::string& event) const;
+
+    std::vector<std::string> events;
+    std::vector<Message> messages;
+    std::string cancelTag;
+    std::string text1;
+    std::string text2;
+
+    /// What the folder picker answers.
+    std::string folder;
+    /// What the message boxes answer, in order; when it is used up, their first button.
+    std::deque<MessageAnswer> answers;
+    /// Called when events run, and when a message is shown, so that a test can meddle.
+    std::function<void()> onEvents;
+    std::function<void(const Message&)> onMessage;
+};
+
+}  // namespace marlo::test
