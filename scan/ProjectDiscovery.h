@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/Application.h"
+#include "core/MainWindow.h"
+#include "scan/SearchLists.h"
+
+namespace marlo {
+
+/// A date as a number of days since 30 December 1899.
+using DateNumber = double;
+
+/// Collects the full paths of the project files in a folder in `lists.ProjectFiles`, in the order
+/// of their names without regard to case, a folder's own files before those of its subfolders.
+///
+/// A file is a project when the desktop describes its type as "CubaseSX Project" or "CPR File"; on
+/// Linux that is a regular file with the extension `.cpr` (see `platform::Desktop`). No folder is
+/// visited twice, whatever links lead to it. Each project found is shown in the window's second
+/// status box, and events run.
+///
+/// @param folder where to start; nothing is added when it cannot be opened.
+/// @param sameAsLastRun,lastRunDate handed down to the subfolders and not used otherwise.
+/// @param projectCount the next free index of `lists.ProjectFiles`; advanced by the projects found.
+/// @throws RunTimeError when any other folder cannot be opened, or a folder or a file's type cannot
+///         be read. Logs nothing.
+void GetListOfProjects(const Application& application, MainWindow& window, SearchLists& lists,
+                       const std::string& folder, bool includeSubfolders, bool sameAsLastRun,
+                       DateNumber lastRunDate, std::int32_t& projectCount);
+
+}  // namespace marlo

@@ -1,0 +1,66 @@
+#include "scan/ResultFiles.h"
+
+#include <string>
+#include <string_view>
+
+#include "core/ErrorLog.h"
+#include "core/Files.h"
+#include "core/Records.h"
+
+namespace marlo {
+
+namespace {
+
+bool WriteOccurrences(const Application& application, MainWindow& window,
+                      const TextList& occurrences) {
+    StagedFile file(application, "\\resultfiles\\results.csv");
+    for (const std::string& occurrence : occurrences)
+        file.WriteLine(occurrence);
+    return file.MoveIntoPlace(window);
+}
+
+bool WriteStates(const Application& application, MainWindow& window, std::string_view relativePath,
+                 const MergedStates& states) {
+    StagedFile file(application, relativePath);
+    for (const auto& [key, state] : states)
+        file.WriteLine(key + "," + Quoted(state));
+    return file.MoveIntoPlace(window);
+}
+
+/// Merges the plug-ins of all projects by name and type.
+/// @param ok set to false when a key could not be split.
+MergedStates MergeProjects(const Application& application, const MergedStates& projectPlugins,
+                           bool& ok) {
+    MergedStates merged;
+    for (const auto& [key, state] : projectPlugins) {
+        const auto fields = SplitRecord(application, key, 3);
+        if (fields.empty()) {
+            WriteErrorLog(application,
+                          "Problem writing " + key + ". See " + application.folder +
+                              "\\resultfiles\\errorlog.txt for details.",
+                          0, "n/a");
+            ok = false;
+            continue;
+        }
+        merged.Merge(QuotedFields({fields[1], fields[2]}), state);
+    }
+    return merged;
+}
+
+}  // namespace
+
+bool CreateResultFiles(const Application& application, MainWindow& window,
+                       const SearchLists& lists) {
+    bool ok = true;
+    const bool completed = RunGuarded(application, "CreateResultFiles", [&] {
+        if (!WriteOccurrences(application, window, lists.PluginOccurrences))
+            return;
+        if (!WriteStates(application, window, "\\resultfiles\\fln.csv", lists.ProjectPluginKeys))
+            return;
+        const auto merged = MergeProjects(application, lists.ProjectPluginKeys, ok);
+        WriteStates(application, window, "\\resultfiles\\tln.csv", merged);
+    });
+    return ok && completed;
+}
+
+}  // namespace marlo

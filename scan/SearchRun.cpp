@@ -1,0 +1,155 @@
+#include "scan/SearchRun.h"
+
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <ctime>
+#include <optional>
+#include <string>
+
+#include "core/ErrorLog.h"
+#include "core/Settings.h"
+#include "core/Text.h"
+#include "scan/ProjectDiscovery.h"
+#include "scan/ProjectPlugins.h"
+#include "scan/ResultFiles.h"
+
+namespace marlo {
+
+namespace {
+
+struct Request {
+    std::string folder;
+    bool includeSubfolders = false;
+    bool sameAsLastRun = false;
+};
+
+/// Asks for the folder and for its subfolders, and remembers both answers.
+/// @return nothing when the user cancels.
+std::optional<Request> AskWhatToSearch(const Application& application, MainWindow& window) {
+    const std::string lastFolder = getSetting(application, setting::kLastFolder);
+    const bool lastSubfolders = getSetting(application, setting::kIncludeSubfolders) == "1";
+    const std::string folder = window.PickFolder("Please select a folder:", lastFolder);
+    if (folder.empty())
+        return std::nullopt;
+    WriteSetting(application, setting::kLastFolder, folder);
+    const MessageAnswer answer = window.ShowMessage({.text = "Include Subfolders in the search?",
+                                                     .buttons = MessageButtons::YesNoCancel,
+                                                     .icon = MessageIcon::Question,
+                                                     .title = ""});
+    if (answer != MessageAnswer::Yes && answer != MessageAnswer::No)
+        return std::nullopt;
+    const bool subfolders = answer == MessageAnswer::Yes;
+    WriteSetting(application, setting::kIncludeSubfolders, subfolders ? "1" : "0");
+    return Request{.folder = folder,
+                   .includeSubfolders = subfolders,
+                   .sameAsLastRun = folder == lastFolder && subfolders == lastSubfolders};
+}
+
+void FindProjects(const Application& application, MainWindow& window, SearchLists& lists,
+                  const Request& request) {
+    window.SetText1("(1) Compiling list of SX Projects...");
+    window.SetText2("");
+    window.DisableButtons();
+    window.LetEventsRun();
+    const DateNumber lastRunDate = LeadingNumber(getSetting(application, setting::kLastSearch));
+    std::int32_t projectCount = 1;
+    GetListOfProjects(application, window, lists, request.folder, request.includeSubfolders,
+                      request.sameAsLastRun, lastRunDate, projectCount);
+}
+
+bool IsCancelled(const MainWindow& window) {
+    return window.CancelTag() == kCancelTag;
+}
+
+/// Scans the projects found until the user cancels.
+void ScanProjects(const Application& application, MainWindow& window, SearchLists& lists,
+                  SearchSummary& summary) {
+    const auto count = static_cast<int>(lists.ProjectFiles.UpperBound());
+    int index = 0;
+    for (const std::string& path : lists.ProjectFiles) {
+        const int percentage = SearchPercentage(++index, count);
+        window.SetText1("(2) Finding Plugins (" + std::to_string(percentage) + "%) ...");
+        window.SetText2(path);
+        window.Repaint();
+        window.LetEventsRun();
+        if (IsCancelled(window))
+            return;
+        ++summary.projects;
+        if (!GetPlugins4Project(application, lists, path))
+            ++summary.failedProjects;
+    }
+}
+
+/// The date and time in the fixed form of the settings, "11-15-2026 03:10:22".
+std::string SettingDate(const std::tm& moment) {
+    std::array<char, sizeof "mm-dd-yyyy hh:mm:ss"> text{};
+    const std::size_t length =
+        std::strftime(text.data(), text.size(), "%m-%d-%Y %H:%M:%S", &moment);
+    return {text.data(), length};
+}
+
+void WriteResults(const Application& application, MainWindow& window, SearchLists& lists,
+                  SearchSummary& summary) {
+    lists.ProjectFiles.Clear();
+    window.SetText1("(3) Writing to file...");
+    window.SetText2("");
+    window.Repaint();
+    summary.occurrences = lists.PluginOccurrences.UpperBound();
+    summary.projectPlugins = lists.ProjectPluginKeys.UpperBound();
+    if (CreateResultFiles(application, window, lists)) {
+        summary.outcome = SearchOutcome::Written;
+        WriteSetting(application, setting::kLastSearch, SettingDate(application.clock.Now()));
+    } else {
+        summary.outcome = SearchOutcome::Failed;
+        window.ShowMessage({.text = "Errors occurred while creating the result files. See " +
+                                    application.folder + "\\resultfiles\\errorlog.txt for details.",
+                            .icon = MessageIcon::Exclamation});
+    }
+}
+
+void Search(const Application& application, MainWindow& window, SearchLists& lists,
+            SearchSummary& summary) {
+    const auto request = AskWhatToSearch(application, window);
+    if (!request)
+        return;
+    FindProjects(application, window, lists, *request);
+    ScanProjects(application, window, lists, summary);
+    if (!IsCancelled(window)) {
+        WriteResults(application, window, lists, summary);
+        return;
+    }
+    summary.outcome = SearchOutcome::Cancelled;
+    window.ShowMessage({.text = "Cancelled", .icon = MessageIcon::Information});
+}
+
+}  // namespace
+
+int SearchPercentage(int index, int count) {
+    // Dividing first loses a little, and users know the figures that come of it.
+    const double share = static_cast<double>(index) / static_cast<double>(count);
+    return static_cast<int>(std::floor(share * 100.0));
+}
+
+SearchSummary GetPlugins4AllProjects(const Application& application, MainWindow& window,
+                                     SearchLists& lists) {
+    SearchSummary summary;
+    window.SetCancelTag("");
+    lists.Clear();
+    if (!RunGuarded(application, "GetPlugins4AllProjects",
+                    [&] { Search(application, window, lists, summary); })) {
+        summary.outcome = SearchOutcome::Failed;
+        ShowUnexpectedError(window);
+    }
+    lists.Clear();
+    window.ClearStatusBar();
+    window.Repaint();
+    window.EnableButtons();
+    if (summary.failedProjects > 0)
+        // The folder's name is what users of this message know, though the log lies elsewhere.
+        window.ShowMessage({.text = "Errors occurred. See " + application.folder +
+                                    "\\results\\errorlog.txt for details"});
+    return summary;
+}
+
+}  // namespace marlo

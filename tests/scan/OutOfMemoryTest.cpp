@@ -1,0 +1,79 @@
+#include <cstddef>
+#include <new>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "core/Records.h"
+#include "scan/ProjectPlugins.h"
+#include "scan/ResultFiles.h"
+#include "scan/SearchLists.h"
+#include "tests/support/ApplicationTest.h"
+#include "tests/support/FailingAllocation.h"
+#include "tools/ProjectWriter.h"
+
+namespace marlo {
+namespace {
+
+class OutOfMemoryTest : public test::ApplicationTest {
+  protected:
+    SearchLists lists;
+};
+
+TEST_F(OutOfMemoryTest, AScanThatRunsOutOfMemoryKeepsWhatItHadAndLogsNumber7) {
+    const std::string longName(10000, 'n');
+    const std::string path =
+        folder.Write("song.cpr", std::string(100, '\0') + tools::PluginBytes({.name = "Kept"}) +
+                                     tools::PluginBytes({.name = longName}));
+    bool completed = true;
+    // The reader's blocks are larger than any record.
+    {
+        const test::FailingAllocation failing(
+            [](std::size_t size) { return size > 10000 && size < 60000; });
+        completed = GetPlugins4Project(application, lists, path);
+    }
+    EXPECT_FALSE(completed);
+    const std::string key = "\"" + path + "\",\"Kept\",\"VST    \"";
+    EXPECT_EQ(Log(), LogLine("GetPlugins4Project " + path + " " + key, 7, "Out of memory"));
+    EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 1U);
+    EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 1U);
+}
+
+TEST_F(OutOfMemoryTest, AKeyThatCannotBeSplitIsLoggedAndMakesTheResultFilesFail) {
+    const std::string key = "\"A.cpr\",\"Delay\",\"VST    \"";
+    lists.PluginOccurrences.Append(key + ",\"On\"");
+    lists.ProjectPluginKeys.Merge(key, kOn);
+    bool ok = true;
+    {
+        const test::FailingAllocation failing(
+            [](std::size_t size) { return size == 3 * sizeof(std::string); });
+        ok = CreateResultFiles(application, window, lists);
+    }
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(Log(), LogLine("SplitRecord: " + key + " 3", 7, "Out of memory") +
+                         LogLine("Problem writing " + key + ". See " + folder.Path() +
+                                     "\\resultfiles\\errorlog.txt for details.",
+                                 0, "n/a"));
+    EXPECT_EQ(folder.Read("resultfiles/fln.csv"), key + ",\"On\"\r\n");
+    EXPECT_EQ(folder.Read("resultfiles/tln.csv"), "");
+}
+
+TEST_F(OutOfMemoryTest, AKeyThatCannotBeFoundAgainIsNotAddedEither) {
+    MergedStates states;
+    states.Merge("first", kOn);
+    bool thrown = false;
+    try {
+        // What the index allocates for one key.
+        const test::FailingAllocation failing(
+            [](std::size_t size) { return size == 5 * sizeof(void*); });
+        states.Merge("second", kOn);
+    } catch (const std::bad_alloc&) {
+        thrown = true;
+    }
+    EXPECT_TRUE(thrown);
+    EXPECT_EQ(states.UpperBound(), 1U);
+    EXPECT_EQ(states.Merge("second", kOff).state, kOff);
+}
+
+}  // namespace
+}  // namespace marlo

@@ -1,0 +1,193 @@
+#include <filesystem>
+#include <string>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "core/Records.h"
+#include "scan/ResultFiles.h"
+#include "tests/support/ApplicationTest.h"
+
+namespace marlo {
+namespace {
+
+using std::filesystem::permissions;
+using std::filesystem::perms;
+
+class ResultFilesTest : public test::ApplicationTest {
+  protected:
+    /// Adds one use of a plug-in to the lists, as a scan does.
+    void AddUse(const std::string& project, const std::string& name, const std::string& state,
+                const std::string& type = "VST    ") {
+        const std::string key = QuotedFields({project, name, type});
+        lists.PluginOccurrences.Append(key + "," + Quoted(state));
+        lists.ProjectPluginKeys.Merge(key, state);
+    }
+
+    bool Create() { return CreateResultFiles(application, window, lists); }
+
+    std::string Results() const { return folder.Read("resultfiles/results.csv"); }
+    std::string Fln() const { return folder.Read("resultfiles/fln.csv"); }
+    std::string Tln() const { return folder.Read("resultfiles/tln.csv"); }
+
+    void WriteOldFiles() const {
+        for (const char* name : {"results.csv", "fln.csv", "tln.csv"})
+            folder.Write(std::string("resultfiles/") + name, "old");
+    }
+
+    SearchLists lists;
+};
+
+TEST_F(ResultFilesTest, ARunWithoutPluginsWritesThreeEmptyFiles) {
+    WriteOldFiles();
+    EXPECT_TRUE(Create());
+    EXPECT_EQ(Results(), "");
+    EXPECT_EQ(Fln(), "");
+    EXPECT_EQ(Tln(), "");
+    EXPECT_TRUE(window.events.empty());
+}
+
+TEST_F(ResultFilesTest, OnePluginInTwoProjectsIsMergedByProjectAndOverAll) {
+    AddUse("A.cpr", "Delay", "Off");
+    AddUse("A.cpr", "Delay", "On");
+    AddUse("B.cpr", "Delay", "Off");
+    EXPECT_TRUE(Create());
+    EXPECT_EQ(Results(),
+              "\"A.cpr\",\"Delay\",\"VST    \",\"Off\"\r\n"
+              "\"A.cpr\",\"Delay\",\"VST    \",\"On\"\r\n"
+              "\"B.cpr\",\"Delay\",\"VST    \",\"Off\"\r\n");
+    EXPECT_EQ(Fln(),
+              "\"A.cpr\",\"Delay\",\"VST    \",\"On\"\r\n"
+              "\"B.cpr\",\"Delay\",\"VST    \",\"Off\"\r\n");
+    EXPECT_EQ(Tln(), "\"Delay\",\"VST\",\"On\"\r\n");
+}
+
+TEST_F(ResultFilesTest, ALaterOnTurnsTheOverallStateOn) {
+    AddUse("A.cpr", "Delay", "Off");
+    AddUse("B.cpr", "Delay", "On");
+    AddUse("C.cpr", "Delay", "Off");
+    Create();
+    EXPECT_EQ(Tln(), "\"Delay\",\"VST\",\"On\"\r\n");
+}
+
+TEST_F(ResultFilesTest, TheSameNameWithBothTypesGivesTwoOverallLines) {
+    AddUse("A.cpr", "Echo", "On");
+    AddUse("A.cpr", "Echo", "Off", "DirectX");
+    Create();
+    EXPECT_EQ(Tln(), "\"Echo\",\"VST\",\"On\"\r\n\"Echo\",\"DirectX\",\"Off\"\r\n");
+}
+
+TEST_F(ResultFilesTest, LinesAppearInOrderOfFirstAppearance) {
+    AddUse("A.cpr", "z", "On");
+    AddUse("A.cpr", "a", "On");
+    AddUse("B.cpr", "m", "On");
+    AddUse("B.cpr", "a", "On");
+    Create();
+    EXPECT_EQ(Tln(), "\"z\",\"VST\",\"On\"\r\n\"a\",\"VST\",\"On\"\r\n\"m\",\"VST\",\"On\"\r\n");
+}
+
+TEST_F(ResultFilesTest, ANameWithACommaGivesShiftedFieldsInTheOverallLine) {
+    AddUse("A.cpr", "Chorus, Wide", "On");
+    EXPECT_TRUE(Create());
+    EXPECT_EQ(Fln(), "\"A.cpr\",\"Chorus, Wide\",\"VST    \",\"On\"\r\n");
+    EXPECT_EQ(Tln(), "\"Chorus\",\"Wide\",\"On\"\r\n");
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(ResultFilesTest, NamesAreComparedWithRegardToCase) {
+    AddUse("A.cpr", "delay", "On");
+    AddUse("B.cpr", "Delay", "On");
+    Create();
+    EXPECT_EQ(Tln(), "\"delay\",\"VST\",\"On\"\r\n\"Delay\",\"VST\",\"On\"\r\n");
+}
+
+TEST_F(ResultFilesTest, BytesAreWrittenAsTheyAre) {
+    AddUse("D:\\\xE9t\xE9.cpr", "R\xE9verb", "On");
+    Create();
+    EXPECT_EQ(Results(), "\"D:\\\xE9t\xE9.cpr\",\"R\xE9verb\",\"VST    \",\"On\"\r\n");
+    EXPECT_EQ(Tln(), "\"R\xE9verb\",\"VST\",\"On\"\r\n");
+}
+
+TEST_F(ResultFilesTest, AKeyWithTooFewFieldsIsLoggedBySplittingAndStillWritten) {
+    lists.ProjectPluginKeys.Merge("\"A.cpr\",\"lost\"", "On");
+    EXPECT_TRUE(Create());
+    EXPECT_EQ(Tln(), "\"lost\",\"\",\"On\"\r\n");
+    EXPECT_EQ(Log(), LogLine(R"(SplitRecord: "A.cpr","lost" 3)", 5, "Invalid procedure call"));
+}
+
+TEST_F(ResultFilesTest, AMissingResultFolderIsLoggedWhereItCanBeAndFails) {
+    std::filesystem::remove(folder.Path("resultfiles"));
+    ErrorEntry logged;
+    application.onErrorLogged = [&](const ErrorEntry& entry) { logged = entry; };
+    EXPECT_FALSE(Create());
+    EXPECT_EQ(logged.procedure, "CreateResultFiles");
+    EXPECT_EQ(logged.number, 76);
+    EXPECT_FALSE(folder.Exists("resultfiles"));
+}
+
+TEST_F(ResultFilesTest, FilesWrittenBeforeAFailureStayAsTheyAre) {
+    WriteOldFiles();
+    std::filesystem::remove(folder.Path("resultfiles/fln.csv"));
+    folder.MakeFolder("resultfiles/fln.csv");
+    AddUse("A.cpr", "Delay", "On");
+    EXPECT_FALSE(Create());
+    EXPECT_EQ(Results(), "\"A.cpr\",\"Delay\",\"VST    \",\"On\"\r\n");
+    EXPECT_EQ(Tln(), "old");
+    EXPECT_EQ(Log(), LogLine("CreateResultFiles", 75, "Path/File access error"));
+    EXPECT_FALSE(folder.Exists("resultfiles/fln.csv.new"));
+}
+
+TEST_F(ResultFilesTest, CancelAtTheSecondQuestionKeepsTheOldFilesFromThereOnAndIsNoFailure) {
+    if (getuid() != 0)
+        GTEST_SKIP() << "needs a file that belongs to another user";
+    WriteOldFiles();
+    // The first file may be replaced, the others belong to somebody else.
+    permissions(folder.Path(), perms{0755});
+    permissions(folder.Path("resultfiles"), perms{01777});
+    ASSERT_EQ(chown(folder.Path("resultfiles/results.csv").c_str(), 65534, 65534), 0);
+    AddUse("A.cpr", "Delay", "On");
+    window.answers = {MessageAnswer::Cancel};
+    {
+        const test::OrdinaryUser user;
+        EXPECT_TRUE(Create());
+    }
+    EXPECT_EQ(Results(), "\"A.cpr\",\"Delay\",\"VST    \",\"On\"\r\n");
+    EXPECT_EQ(Fln(), "old");
+    EXPECT_EQ(Tln(), "old");
+    EXPECT_EQ(window.MessageTexts(),
+              std::vector{"The file " + folder.Path("resultfiles/fln.csv") +
+                          " is being used by another program. Close that program and click Ok to "
+                          "continue"});
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(ResultFilesTest, TheQuestionsComeInTheOrderOfTheFiles) {
+    if (getuid() != 0)
+        GTEST_SKIP() << "needs a file that belongs to another user";
+    WriteOldFiles();
+    permissions(folder.Path(), perms{0755});
+    permissions(folder.Path("resultfiles"), perms{01777});
+    const auto free = [&](const std::string& name) {
+        if (seteuid(0) == 0 && chown(folder.Path(name).c_str(), 65534, 65534) == 0 &&
+            seteuid(65534) == 0)
+            return;
+        ADD_FAILURE() << "cannot free " << name;
+    };
+    std::vector<std::string> asked;
+    window.onMessage = [&](const Message& message) {
+        for (const std::string name : {"results.csv", "fln.csv", "tln.csv"})
+            if (message.text.find("/" + name) != std::string::npos) {
+                asked.push_back(name);
+                free("resultfiles/" + name);
+            }
+    };
+    {
+        const test::OrdinaryUser user;
+        EXPECT_TRUE(Create());
+    }
+    EXPECT_EQ(asked, (std::vector<std::string>{"results.csv", "fln.csv", "tln.csv"}));
+    EXPECT_EQ(Tln(), "");
+}
+
+}  // namespace
+}  // namespace marlo

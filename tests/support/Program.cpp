@@ -1,0 +1,139 @@
+#include "tests/support/Program.h"
+
+#include <array>
+#include <csignal>
+#include <fcntl.h>
+#include <poll.h>
+#include <pty.h>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+
+namespace marlo::test {
+
+namespace {
+
+[[noreturn]] void Become(const std::vector<std::string>& arguments) {
+    std::vector<char*> words;
+    for (const std::string& argument : arguments)
+        words.push_back(const_cast<char*>(argument.c_str()));
+    words.push_back(nullptr);
+    execv(words[0], words.data());
+    _exit(127);
+}
+
+int ExitCodeOf(int status) {
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+/// Reads two pipes to their ends, whichever has something first.
+void ReadBoth(int outPipe, int errorPipe, ProgramResult& result) {
+    std::array<pollfd, 2> pipes = {{{outPipe, POLLIN, 0}, {errorPipe, POLLIN, 0}}};
+    const std::array<std::string*, 2> texts = {&result.out, &result.error};
+    std::array<char, 65536> buffer{};
+    while (pipes[0].fd >= 0 || pipes[1].fd >= 0) {
+        poll(pipes.data(), pipes.size(), -1);
+        for (std::size_t i = 0; i < pipes.size(); ++i) {
+            if (pipes.at(i).fd < 0 || pipes.at(i).revents == 0)
+                continue;
+            const ssize_t count = read(pipes.at(i).fd, buffer.data(), buffer.size());
+            if (count > 0)
+                texts.at(i)->append(buffer.data(), static_cast<std::size_t>(count));
+            else
+                pipes.at(i).fd = -1;
+        }
+    }
+}
+
+}  // namespace
+
+ProgramResult Run(const std::vector<std::string>& arguments) {
+    std::array<int, 2> outPipe{};
+    std::array<int, 2> errorPipe{};
+    if (pipe2(outPipe.data(), O_CLOEXEC) != 0 || pipe2(errorPipe.data(), O_CLOEXEC) != 0)
+        throw std::runtime_error("no pipes");
+    const pid_t process = fork();
+    if (process == 0) {
+        const int nothing = open("/dev/null", O_RDONLY);
+        dup2(nothing, STDIN_FILENO);
+        dup2(outPipe[1], STDOUT_FILENO);
+        dup2(errorPipe[1], STDERR_FILENO);
+        Become(arguments);
+    }
+    close(outPipe[1]);
+    close(errorPipe[1]);
+    ProgramResult result;
+    ReadBoth(outPipe[0], errorPipe[0], result);
+    close(outPipe[0]);
+    close(errorPipe[0]);
+    int status = 0;
+    waitpid(process, &status, 0);
+    result.exitCode = ExitCodeOf(status);
+    return result;
+}
+
+Program Program::Start(const std::vector<std::string>& arguments) {
+    const pid_t process = fork();
+    if (process == 0) {
+        const int nothing = open("/dev/null", O_RDWR);
+        for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+            dup2(nothing, stream);
+        Become(arguments);
+    }
+    return {process, -1};
+}
+
+Program Program::StartInTerminal(const std::vector<std::string>& arguments) {
+    winsize size{};
+    size.ws_col = 80;
+    size.ws_row = 24;
+    int terminal = -1;
+    const pid_t process = forkpty(&terminal, nullptr, nullptr, &size);
+    if (process == 0)
+        Become(arguments);
+    if (process < 0)
+        throw std::runtime_error("no terminal");
+    return {process, terminal};
+}
+
+Program::~Program() {
+    if (process_ > 0) {
+        Send(SIGKILL);
+        Wait();
+    }
+    if (terminal_ >= 0)
+        close(terminal_);
+}
+
+void Program::Send(int signal) const {
+    kill(process_, signal);
+}
+
+void Program::Type(const std::string& text) const {
+    if (write(terminal_, text.data(), text.size()) != static_cast<ssize_t>(text.size()))
+        throw std::runtime_error("cannot type");
+}
+
+const std::string& Program::ReadUntil(const std::string& text) {
+    std::array<char, 4096> buffer{};
+    while (text.empty() || read_.find(text) == std::string::npos) {
+        const ssize_t count = read(terminal_, buffer.data(), buffer.size());
+        if (count <= 0)
+            break;
+        read_.append(buffer.data(), static_cast<std::size_t>(count));
+    }
+    return read_;
+}
+
+const std::string& Program::ReadAll() {
+    return ReadUntil("");
+}
+
+int Program::Wait() {
+    int status = 0;
+    waitpid(std::exchange(process_, 0), &status, 0);
+    return ExitCodeOf(status);
+}
+
+}  // namespace marlo::test
