@@ -4,10 +4,16 @@
 PACKAGES := packaging/install-packages
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-.PHONY: help build test test-sanitizer format lint clean
+.PHONY: help run build test test-sanitizer format lint clean
 
 help: ## List the targets
 	@sed -n 's/^\([a-z-]*\):.*## /  make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
+
+run: ## Build Marlo, search the sample projects and print what was found
+	@$(PACKAGES) build
+	@cmake --preset normal --log-level=WARNING
+	@cmake --build --preset normal --target marlo-cli marlo-samples
+	@tools/show-samples build/normal
 
 build:
 	@$(PACKAGES) build

@@ -1,0 +1,123 @@
+#include <iostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "app/cli/Commands.h"
+#include "app/cli/Table.h"
+#include "app/cli/TerminalText.h"
+#include "app/cli/TerminalWindow.h"
+#include "core/Records.h"
+#include "core/Text.h"
+#include "platform/Terminal.h"
+#include "scan/ProjectPlugins.h"
+#include "scan/SearchLists.h"
+
+namespace marlo::cli {
+
+namespace {
+
+/// A line of the output: a key record and a state, and the project that they are about.
+struct Line {
+    std::string_view project;
+    std::string_view key;
+    std::string_view state;
+};
+
+/// An occurrence record is a key record, a comma and the state in quotes.
+Line LineOfOccurrence(std::string_view project, std::string_view occurrence) {
+    const std::size_t comma = occurrence.rfind(',');
+    const std::string_view stateField = occurrence.substr(comma + 1);
+    return {project, occurrence.substr(0, comma), stateField.substr(1, stateField.size() - 2)};
+}
+
+/// The name may hold commas and quotes of its own, so it is what the fields around it leave over.
+std::string_view NameIn(const Line& line) {
+    constexpr std::size_t typeFieldLength = std::string_view(R"(,"DirectX")").size();
+    const std::size_t start = line.project.size() + std::string_view(R"("",")").size();
+    const std::size_t end = line.key.size() - typeFieldLength - 1;
+    return line.key.substr(start, end - start);
+}
+
+std::string_view TypeIn(const Line& line) {
+    constexpr std::size_t typeLength = std::string_view("DirectX").size();
+    return TrimSpaces(line.key.substr(line.key.size() - typeLength - 1, typeLength));
+}
+
+void PrintCsv(const std::vector<Line>& lines) {
+    const bool raw = !platform::IsTerminal(platform::Stream::Out);
+    for (const Line& line : lines) {
+        const std::string record = std::string(line.key) + "," + Quoted(line.state);
+        if (raw)
+            std::cout << record << "\r\n";
+        else
+            std::cout << Printable(record) << '\n';
+    }
+}
+
+void PrintJson(const std::vector<Line>& lines) {
+    auto uses = nlohmann::ordered_json::array();
+    for (const Line& line : lines)
+        uses.push_back({{"project", DecodeToUtf8(line.project)},
+                        {"plugin", DecodeToUtf8(NameIn(line))},
+                        {"type", TypeIn(line)},
+                        {"state", line.state}});
+    std::cout << JsonText(uses);
+}
+
+void PrintTable(const std::vector<Line>& lines) {
+    Table table({"Plug-in", "Type", "State", "Project"});
+    for (const Line& line : lines)
+        table.AddRow({std::string(NameIn(line)), std::string(TypeIn(line)), std::string(line.state),
+                      std::string(line.project)});
+    table.Print(std::cout);
+}
+
+void Print(const std::vector<Line>& lines, OutputFormat format) {
+    switch (format) {
+        case OutputFormat::Table:
+            return PrintTable(lines);
+        case OutputFormat::Csv:
+            return PrintCsv(lines);
+        case OutputFormat::Json:
+            return PrintJson(lines);
+    }
+}
+
+}  // namespace
+
+int RunPlugins(const Environment& environment, const PluginsOptions& options) {
+    TerminalWindow window({}, ProgressStyle::None);
+    const Application application{environment.applicationFolder, environment.clock,
+                                  environment.desktop,
+                                  [&](const ErrorEntry& entry) { window.ShowLogEntry(entry); }};
+    SearchLists lists;
+    bool allScansOk = true;
+    // For each file, where its records end in the two lists.
+    std::vector<std::size_t> lastOccurrences;
+    std::vector<std::size_t> lastKeys;
+    for (const std::string& file : options.files) {
+        allScansOk = GetPlugins4Project(application, lists, file) && allScansOk;
+        lastOccurrences.push_back(lists.PluginOccurrences.UpperBound());
+        lastKeys.push_back(lists.ProjectPluginKeys.UpperBound());
+    }
+    std::vector<Line> lines;
+    std::size_t index = 1;
+    for (std::size_t i = 0; i < options.files.size(); ++i) {
+        const std::string& file = options.files[i];
+        if (options.merged)
+            for (; index <= lastKeys[i]; ++index) {
+                const auto& entry = lists.ProjectPluginKeys[index];
+                lines.push_back({file, entry.key, entry.state});
+            }
+        else
+            for (; index <= lastOccurrences[i]; ++index)
+                lines.push_back(LineOfOccurrence(file, lists.PluginOccurrences[index]));
+    }
+    Print(lines, options.format);
+    return FinishOutput(allScansOk ? kDone : kFailed);
+}
+
+}  // namespace marlo::cli

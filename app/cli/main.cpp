@@ -1,0 +1,136 @@
+#include <functional>
+#include <iostream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <system_error>
+
+#include <CLI/CLI.hpp>
+
+#include "app/cli/Commands.h"
+#include "app/cli/TerminalText.h"
+#include "platform/FileSystem.h"
+#include "platform/Machine.h"
+
+namespace marlo::cli {
+
+int FinishOutput(int exitCode) {
+    std::cout.flush();
+    if (std::cout)
+        return exitCode;
+    std::cerr << "marlo-cli: the output cannot be written\n";
+    return kFailed;
+}
+
+namespace {
+
+constexpr const char* kVersion = "marlo-cli " MARLO_VERSION;
+
+/// The command line: the program's commands and options, and what they were set to.
+class CommandLine {
+  public:
+    CommandLine() {
+        app_.require_subcommand(1);
+        app_.fallthrough();
+        app_.set_version_flag("--version", kVersion);
+        app_.add_option("--app-folder", applicationFolder_,
+                        "The application folder, with settings.ini and resultfiles in it "
+                        "(default: the program's own folder)")
+            ->type_name("DIR");
+        app_.footer(
+            "Exit codes: 0 done, 1 something failed (said on the standard error stream),\n"
+            "2 wrong usage, 130 cancelled.");
+        AddPlugins();
+        AddSearch();
+    }
+
+    int Run(int argc, const char* const* argv) {
+        try {
+            app_.parse(argc, argv);
+        } catch (const CLI::ParseError& ending) {
+            return Report(ending);
+        }
+        std::error_code error;
+        const std::string folder = platform::CanonicalPath(applicationFolder_, error);
+        if (error || !platform::IsFolder(folder, error)) {
+            std::cerr << "marlo-cli: the application folder " << Printable(applicationFolder_)
+                      << " does not exist\n";
+            return kFailed;
+        }
+        return command_({folder, platform::SystemClock(), platform::SystemDesktop()});
+    }
+
+  private:
+    CLI::App* AddCommand(const std::string& name, const std::string& description,
+                         std::function<int(const Environment&)> command) {
+        auto* const added = app_.add_subcommand(name, description);
+        added->set_version_flag("--version", kVersion);
+        added->callback([this, command = std::move(command)] { command_ = command; });
+        return added;
+    }
+
+    static void AddFormat(CLI::App* command, OutputFormat& format) {
+        static const std::map<std::string, OutputFormat> formats = {{"table", OutputFormat::Table},
+                                                                    {"csv", OutputFormat::Csv},
+                                                                    {"json", OutputFormat::Json}};
+        command
+            ->add_option_function<std::string>(
+                "--format", [&format](const std::string& name) { format = formats.at(name); },
+                "table (default), csv or json")
+            ->check(CLI::IsMember(formats).description(""))
+            ->type_name("FORMAT");
+    }
+
+    void AddPlugins() {
+        auto* const command = AddCommand(
+            "plugins", "Print the plug-ins that project files use",
+            [this](const Environment& environment) { return RunPlugins(environment, plugins_); });
+        command->add_option("FILE", plugins_.files, "The project files")->required()->type_name("");
+        command->add_flag("--merged", plugins_.merged,
+                          "A line for each plug-in of a project rather than for each use; On when "
+                          "any use is on");
+        AddFormat(command, plugins_.format);
+    }
+
+    void AddSearch() {
+        auto* const command = AddCommand(
+            "search", "Search a folder of projects and write the result files",
+            [this](const Environment& environment) { return RunSearch(environment, search_); });
+        command
+            ->add_option("FOLDER", search_.folder,
+                         "The folder to search (default: the one that was searched last)")
+            ->type_name("");
+        command->add_flag_callback(
+            "--no-subfolders", [this] { search_.includeSubfolders = false; },
+            "Leave the folders inside FOLDER out");
+        command->add_flag("--progress", search_.showProgress,
+                          "Show the progress also when the standard error stream is no terminal");
+    }
+
+    int Report(const CLI::ParseError& ending) {
+        std::ostringstream out;
+        std::ostringstream complaint;
+        const int code = app_.exit(ending, out, complaint);
+        std::cout << out.str();
+        if (code == 0)
+            return FinishOutput(kDone);
+        std::istringstream lines(complaint.str());
+        for (std::string line; std::getline(lines, line);)
+            std::cerr << Printable(line) << '\n';
+        return kWrongUsage;
+    }
+
+    CLI::App app_{"Which plug-ins do your Cubase SX projects use?", "marlo-cli"};
+    std::string applicationFolder_ = platform::ProgramFolder();
+    PluginsOptions plugins_;
+    SearchOptions search_;
+    std::function<int(const Environment&)> command_;
+};
+
+}  // namespace
+
+}  // namespace marlo::cli
+
+int main(int argc, char** argv) {
+    return marlo::cli::CommandLine().Run(argc, argv);
+}

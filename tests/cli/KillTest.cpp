@@ -1,0 +1,87 @@
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <random>
+#include <set>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/cli/CliTest.h"
+
+namespace marlo {
+namespace {
+
+using test::Program;
+
+constexpr int kProjects = 10000;
+constexpr int kKills = 50;
+const std::vector<std::string> kFiles = {"results.csv", "fln.csv", "tln.csv"};
+
+class KillTest : public test::CliTest {
+  protected:
+    /// Makes a library whose projects all use a plug-in of its own name. @return its folder.
+    std::string MakeLibrary(const std::string& name) const {
+        std::string bytes(100, '\0');
+        for (int i = 0; i < 20; ++i)
+            bytes += tools::PluginBytes({.name = name + std::to_string(i), .chunkSize = 0});
+        const std::string first = folder.Write(name + "/0.cpr", bytes);
+        for (int i = 1; i < kProjects; ++i)
+            std::filesystem::create_hard_link(first,
+                                              folder.Path(name + "/" + std::to_string(i) + ".cpr"));
+        return folder.Path(name);
+    }
+
+    /// Runs a search to its end. @return the three files, in order.
+    std::vector<std::string> SearchWhole(const std::string& library) const {
+        EXPECT_EQ(Marlo({"search", library}).exitCode, 0);
+        std::vector<std::string> texts;
+        for (const std::string& name : kFiles)
+            texts.push_back(Result(name));
+        return texts;
+    }
+};
+
+TEST_F(KillTest, AKillAtAnyMomentLeavesEveryResultFileWhole) {
+    const std::vector<std::string> libraries = {MakeLibrary("one"), MakeLibrary("two")};
+    const auto start = std::chrono::steady_clock::now();
+    std::vector<std::vector<std::string>> whole;
+    for (const std::string& library : libraries)
+        whole.push_back(SearchWhole(library));
+    const auto duration = (std::chrono::steady_clock::now() - start) / 2;
+    ASSERT_NE(whole[0], whole[1]);
+
+    std::mt19937 random(20261115);
+    std::set<bool> changed;
+    for (int kill = 0; kill < kKills; ++kill) {
+        const std::string& library = libraries[static_cast<std::size_t>(kill) % 2];
+        const std::string before = Result("results.csv");
+        auto program = Program::Start(CommandLine({"search", library}));
+        // Half of the kills come while the files are written, the rest whenever they come.
+        if (kill % 4 < 2)
+            while (!folder.Exists("app/resultfiles/results.csv.new") &&
+                   Result("results.csv") == before)
+                usleep(200);
+        const auto most = kill % 4 < 2 ? duration / 4 : duration;
+        const auto microseconds =
+            std::chrono::duration_cast<std::chrono::microseconds>(most).count();
+        usleep(static_cast<useconds_t>(random() % static_cast<unsigned long>(microseconds)));
+        program.Send(SIGKILL);
+        program.Wait();
+        for (std::size_t i = 0; i < kFiles.size(); ++i) {
+            const std::string text = Result(kFiles[i]);
+            ASSERT_TRUE(text == whole[0][i] || text == whole[1][i])
+                << kFiles[i] << " is torn after kill " << kill;
+        }
+        changed.insert(Result("results.csv") != before);
+    }
+    EXPECT_EQ(changed.size(), 2U) << "the kills came all before or all after the writing";
+
+    EXPECT_EQ(SearchWhole(libraries[0]), whole[0]);
+    EXPECT_FALSE(folder.Exists("app/resultfiles/results.csv.new"));
+}
+
+}  // namespace
+}  // namespace marlo

@@ -1,0 +1,120 @@
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "tests/cli/CliTest.h"
+
+namespace marlo {
+namespace {
+
+using test::Program;
+
+class PluginsCommandTest : public test::CliTest {
+  protected:
+    /// A project with a plug-in that is used twice, and an odd name. @return its path.
+    std::string AddUsual() const {
+        return AddProject("a.cpr", {{.name = "Delay", .state = 0},
+                                    {.name = "Delay", .state = 1},
+                                    {.name = "R\xE9verb, \"big\"", .isVst = false}});
+    }
+};
+
+TEST_F(PluginsCommandTest, ATableIsTheUsualOutput) {
+    const std::string path = AddUsual();
+    const auto result = Marlo({"plugins", path});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.error, "");
+    EXPECT_EQ(result.out,
+              "Plug-in        Type     State  Project\n"
+              "Delay          VST      Off    " +
+                  path +
+                  "\n"
+                  "Delay          VST      On     " +
+                  path +
+                  "\n"
+                  "R\xC3\xA9verb, \"big\"  DirectX  On     " +
+                  path + "\n");
+}
+
+TEST_F(PluginsCommandTest, MergedPrintsALineForEachPlugin) {
+    const std::string path = AddUsual();
+    EXPECT_EQ(Marlo({"plugins", "--merged", path}).out,
+              "Plug-in        Type     State  Project\n"
+              "Delay          VST      On     " +
+                  path +
+                  "\n"
+                  "R\xC3\xA9verb, \"big\"  DirectX  On     " +
+                  path + "\n");
+}
+
+TEST_F(PluginsCommandTest, CsvIsByteForByteWhatASearchWritesToTheResultFiles) {
+    const std::string a = AddUsual();
+    const std::string b = AddProject("b.cpr", {{.name = "Delay"}, {.name = "x\ny\x1b[2J"}});
+    EXPECT_EQ(Marlo({"search", Songs()}).exitCode, 0);
+    EXPECT_EQ(Marlo({"plugins", a, b, "--format", "csv"}).out, Result("results.csv"));
+    EXPECT_EQ(Marlo({"plugins", a, b, "--format", "csv", "--merged"}).out, Result("fln.csv"));
+    EXPECT_NE(Result("results.csv").find("R\xE9verb"), std::string::npos);
+}
+
+TEST_F(PluginsCommandTest, JsonHasDecodedTexts) {
+    const std::string path = AddUsual();
+    const auto uses = nlohmann::json::parse(Marlo({"plugins", path, "--format", "json"}).out);
+    ASSERT_EQ(uses.size(), 3U);
+    EXPECT_EQ(uses[0],
+              (nlohmann::json{
+                  {"project", path}, {"plugin", "Delay"}, {"type", "VST"}, {"state", "Off"}}));
+    EXPECT_EQ(uses[2]["plugin"], "R\xC3\xA9verb, \"big\"");
+    EXPECT_EQ(uses[2]["type"], "DirectX");
+}
+
+TEST_F(PluginsCommandTest, JsonWithoutAPluginIsAnEmptyList) {
+    EXPECT_EQ(Marlo({"plugins", AddProject("a.cpr", {}), "--format", "json"}).out, "[]\n");
+}
+
+TEST_F(PluginsCommandTest, AFileThatCannotBeScannedIsSaidAndTheOthersArePrinted) {
+    const std::string good = AddProject("a.cpr", {{.name = "Delay"}});
+    const std::string gone = folder.Path("songs/gone.cpr");
+    const auto result = Marlo({"plugins", gone, good, "--format", "csv"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.out, "\"" + good + "\",\"Delay\",\"VST    \",\"On\"\r\n");
+    EXPECT_EQ(result.error,
+              "marlo-cli: GetPlugins4Project " + gone + " : File not found (error 53)\n");
+}
+
+TEST_F(PluginsCommandTest, NoResultFileIsTouched) {
+    Marlo({"plugins", AddUsual()});
+    EXPECT_TRUE(std::filesystem::is_empty(folder.Path("app/resultfiles")));
+    EXPECT_FALSE(folder.Exists("app/settings.ini"));
+}
+
+TEST_F(PluginsCommandTest, TheSameFileTwiceIsListedTwiceAndMergedOnce) {
+    const std::string path = AddProject("a.cpr", {{.name = "Delay"}});
+    const std::string line = "\"" + path + "\",\"Delay\",\"VST    \",\"On\"\r\n";
+    EXPECT_EQ(Marlo({"plugins", path, path, "--format", "csv"}).out, line + line);
+    EXPECT_EQ(Marlo({"plugins", path, path, "--format", "csv", "--merged"}).out, line);
+}
+
+TEST_F(PluginsCommandTest, NothingFromAFileReachesATerminalRaw) {
+    const std::string path =
+        AddProject("a\x1b[31m.cpr", {{.name = "evil\x1b[2J\x1b]0;t\x07\n\xC2\x9B\x7F"}});
+    for (const std::string format : {"table", "csv", "json"}) {
+        auto program = Program::StartInTerminal(CommandLine({"plugins", path, "--format", format}));
+        const std::string seen = program.ReadAll();
+        EXPECT_EQ(program.Wait(), 0) << format;
+        EXPECT_NE(seen.find("evil"), std::string::npos) << format;
+        for (const char* raw : {"\x1b", "\x07", "\x7F", "\xC2\x9B"})
+            EXPECT_EQ(seen.find(raw), std::string::npos) << format;
+    }
+}
+
+TEST_F(PluginsCommandTest, OutputThatCannotBeWrittenIsAFailure) {
+    const std::string command = std::string(MARLO_CLI) + " plugins '" + AddUsual() + "' >/dev/full";
+    const auto result = test::Run({"/bin/sh", "-c", command});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.error, "marlo-cli: the output cannot be written\n");
+}
+
+}  // namespace
+}  // namespace marlo

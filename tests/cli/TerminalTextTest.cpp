@@ -1,0 +1,81 @@
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "app/cli/Table.h"
+#include "app/cli/TerminalText.h"
+
+namespace marlo::cli {
+namespace {
+
+TEST(PrintableTest, TextIsShownAsUtf8) {
+    EXPECT_EQ(Printable("R\xE9verb \xE6\x9B\xB2"), "R\xC3\xA9verb \xC3\xA6\xE2\x80\xBA\xC2\xB2");
+    EXPECT_EQ(Printable("R\xC3\xA9verb \xE6\x9B\xB2"), "R\xC3\xA9verb \xE6\x9B\xB2");
+}
+
+TEST(PrintableTest, ControlCharactersAndEscapeSequencesAreShownNotSent) {
+    EXPECT_EQ(Printable("a\nb\rc\td"), "a\\nb\\rc\\td");
+    EXPECT_EQ(Printable("\x1b[2J\x07"), "\\x1B[2J\\x07");
+    EXPECT_EQ(Printable(std::string("a\0b", 3)), "a\\x00b");
+    EXPECT_EQ(Printable("\x7F"), "\\x7F");
+    EXPECT_EQ(Printable("\xC2\x9B"), "\\x9B");
+}
+
+TEST(PrintableTest, AnAnsiByteThatIsAControlCharacterIsShownNotSent) {
+    EXPECT_EQ(Printable("\x9D"), "\\x9D");
+}
+
+TEST(PrintableTest, WhatTurnsTheWritingDirectionOrEndsTheLineIsShown) {
+    // NOLINTNEXTLINE(misc-misleading-bidirectional): that is what it is about.
+    EXPECT_EQ(Printable("\xE2\x80\xAEtxt.rpc"), "\\u{202E}txt.rpc");
+    EXPECT_EQ(Printable("a\xE2\x80\xA8z"), "a\\u{2028}z");
+    EXPECT_EQ(Printable("\xF3\xA0\x80\x81"), "\\u{E0001}");
+}
+
+TEST(DisplayWidthTest, WideAndCombiningCharactersCountAsTheyShow) {
+    EXPECT_EQ(DisplayWidth("abc"), 3);
+    EXPECT_EQ(DisplayWidth("\xE6\x9B\xB2\xF0\x9F\x8E\xB9"), 4);
+    EXPECT_EQ(DisplayWidth("e\xCC\x81"), 1);
+}
+
+TEST(FitToWidthTest, TextIsCutToCellsWithAnEllipsis) {
+    EXPECT_EQ(FitToWidth("abcdef", 6), "abcdef");
+    EXPECT_EQ(FitToWidth("abcdefg", 6), "abcde\xE2\x80\xA6");
+    EXPECT_EQ(FitToWidth("\xE6\x9B\xB2\xE6\x9B\xB2\xE6\x9B\xB2", 4), "\xE6\x9B\xB2\xE2\x80\xA6");
+}
+
+TEST(JsonTextTest, WhatATerminalWouldActOnIsEscapedAndMeansTheSame) {
+    const nlohmann::ordered_json value = {
+        {"name", "\x1b[2J\x7f \xC2\x9B \xE2\x80\xAE \xF3\xA0\x80\x81 \xC3\xA9\n\"\\"}};
+    const std::string text = JsonText(value);
+    EXPECT_EQ(text,
+              "{\n  \"name\": \"\\u001b[2J\\u007f \\u009b \\u202e \\udb40\\udc01 "
+              "\xC3\xA9\\n\\\"\\\\\"\n}\n");
+    EXPECT_EQ(nlohmann::ordered_json::parse(text), value);
+}
+
+TEST(TableTest, ColumnsAreAlignedByDisplayWidth) {
+    Table table({"Name", "Type", "Project"});
+    table.AddRow({"\xE6\x9B\xB2", "VST", "a.cpr"});
+    table.AddRow({"R\xE9verb", "DirectX", "b.cpr"});
+    std::ostringstream out;
+    table.Print(out);
+    EXPECT_EQ(out.str(),
+              "Name    Type     Project\n"
+              "\xE6\x9B\xB2      VST      a.cpr\n"
+              "R\xC3\xA9verb  DirectX  b.cpr\n");
+}
+
+TEST(TableTest, AWideTextIsCutExceptInTheLastColumn) {
+    Table table({"Name", "Project"});
+    table.AddRow({std::string(70, 'n'), std::string(70, 'p')});
+    std::ostringstream out;
+    table.Print(out);
+    EXPECT_EQ(out.str(), "Name" + std::string(58, ' ') + "Project\n" + std::string(59, 'n') +
+                             "\xE2\x80\xA6  " + std::string(70, 'p') + "\n");
+}
+
+}  // namespace
+}  // namespace marlo::cli
