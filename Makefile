@@ -4,7 +4,7 @@
 PACKAGES := packaging/install-packages
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-.PHONY: help run build test test-sanitizer format lint clean
+.PHONY: help run build test test-sanitizer bench format lint clean
 
 help: ## List the targets
 	@sed -n 's/^\([a-z-]*\):.*## /  make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
@@ -29,6 +29,12 @@ test-sanitizer: ## The same tests with AddressSanitizer and UndefinedBehaviorSan
 	@cmake --build --preset sanitizer
 	ctest --preset sanitizer -j 2
 
+bench: ## Measure speed against baselines from the same run
+	@$(PACKAGES) build bench
+	@cmake --preset release --log-level=WARNING
+	@cmake --build --preset release
+	build/release/bench/marlo-bench
+
 format: ## Put all sources into the project's format
 	@$(PACKAGES) lint
 	@$(SOURCES) | xargs clang-format -i
@@ -36,7 +42,7 @@ format: ## Put all sources into the project's format
 lint: build ## Check the format, and the code with clang-tidy
 	@$(PACKAGES) lint bench
 	@$(SOURCES) | xargs clang-format --dry-run -Werror
-	@cmake --preset normal --log-level=WARNING
+	@cmake --preset normal -D MARLO_BENCHMARKS=ON --log-level=WARNING
 	@run-clang-tidy -quiet -j 2 -p build/normal '^$(CURDIR)/.*\.cpp$$'
 
 clean: ## Delete everything that was built
