@@ -34,6 +34,11 @@ class KillTest : public test::CliTest {
         return folder.Path(name);
     }
 
+    std::filesystem::file_time_type LastWritten() const {
+        return std::filesystem::last_write_time(folder.Path("app/resultfiles/results.csv"));
+    }
+    std::string NewVersion() const { return folder.Path("app/resultfiles/results.csv.new"); }
+
     /// Runs a search to its end. @return the three files, in order.
     std::vector<std::string> SearchWhole(const std::string& library) const {
         EXPECT_EQ(Marlo({"search", library}).exitCode, 0);
@@ -56,18 +61,19 @@ TEST_F(KillTest, AKillAtAnyMomentLeavesEveryResultFileWhole) {
     std::mt19937 random(20261115);
     std::set<bool> changed;
     for (int kill = 0; kill < kKills; ++kill) {
-        const std::string& library = libraries[static_cast<std::size_t>(kill) % 2];
         const std::string before = Result("results.csv");
-        auto program = Program::Start(CommandLine({"search", library}));
+        const auto lastWritten = LastWritten();
+        std::filesystem::remove(NewVersion());
+        auto program =
+            Program::Start(CommandLine({"search", libraries[static_cast<std::size_t>(kill) % 2]}));
         // Half of the kills come while the files are written, the rest whenever they come.
-        if (kill % 4 < 2)
-            while (!folder.Exists("app/resultfiles/results.csv.new") &&
-                   Result("results.csv") == before)
-                usleep(200);
-        const auto most = kill % 4 < 2 ? duration / 4 : duration;
-        const auto microseconds =
-            std::chrono::duration_cast<std::chrono::microseconds>(most).count();
-        usleep(static_cast<useconds_t>(random() % static_cast<unsigned long>(microseconds)));
+        const bool duringWriting = kill % 4 < 2;
+        while (duringWriting && !std::filesystem::exists(NewVersion()) &&
+               LastWritten() == lastWritten)
+            usleep(200);
+        const auto most = std::chrono::duration_cast<std::chrono::microseconds>(
+            duringWriting ? duration / 4 : duration);
+        usleep(static_cast<useconds_t>(random() % static_cast<unsigned long>(most.count())));
         program.Send(SIGKILL);
         program.Wait();
         for (std::size_t i = 0; i < kFiles.size(); ++i) {
@@ -80,7 +86,7 @@ TEST_F(KillTest, AKillAtAnyMomentLeavesEveryResultFileWhole) {
     EXPECT_EQ(changed.size(), 2U) << "the kills came all before or all after the writing";
 
     EXPECT_EQ(SearchWhole(libraries[0]), whole[0]);
-    EXPECT_FALSE(folder.Exists("app/resultfiles/results.csv.new"));
+    EXPECT_FALSE(std::filesystem::exists(NewVersion()));
 }
 
 }  // namespace
