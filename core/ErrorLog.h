@@ -36,10 +36,13 @@ bool RunGuarded(const Application& application, Procedure&& procedure, Body&& bo
         std::forward<Body>(body)();
         return true;
     } catch (...) {
-        if constexpr (std::is_invocable_v<Procedure>)
-            LogFailure(application, std::forward<Procedure>(procedure)());
-        else
-            LogFailure(application, procedure);
+        try {
+            if constexpr (std::is_invocable_v<Procedure>)
+                LogFailure(application, std::forward<Procedure>(procedure)());
+            else
+                LogFailure(application, procedure);
+        } catch (...) {  // NOLINT(bugprone-empty-catch): no memory for the text loses the entry.
+        }
         return false;
     }
 }

@@ -106,6 +106,8 @@ RunTimeError CurrentFailure() {
         return RunTimeError(ErrorNumber::OutOfMemory);
     } catch (const std::exception& failure) {
         return {ErrorNumber::InvalidProcedureCall, failure.what()};
+    } catch (...) {
+        return RunTimeError(ErrorNumber::InvalidProcedureCall);
     }
 }
 

@@ -54,7 +54,7 @@ void ThrowOn(const std::error_code& error);
 void ThrowOnPath(const std::error_code& error);
 
 /// The exception being handled as a failure with a number. Memory that ran out is "Out of memory";
-/// any other exception of the standard library is an "Invalid procedure call" with its own text.
+/// any other exception is an "Invalid procedure call", with its own text if it has one.
 /// To be called inside a catch block only.
 RunTimeError CurrentFailure();
 

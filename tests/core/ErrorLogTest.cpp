@@ -97,7 +97,15 @@ TEST_F(ErrorLogTest, MemoryThatRanOutIsNumber7) {
 
 TEST_F(ErrorLogTest, AnyOtherExceptionIsNumber5WithItsOwnText) {
     RunGuarded(application, "p", [] { throw std::runtime_error("odd"); });
-    EXPECT_EQ(Log(), LogLine("p", 5, "odd"));
+    RunGuarded(application, "p", [] { throw 1; });
+    EXPECT_EQ(Log(), LogLine("p", 5, "odd") + LogLine("p", 5, "Invalid procedure call"));
+}
+
+TEST_F(ErrorLogTest, AProcedureTextThatCannotBeMadeLosesTheEntryOnly) {
+    const auto procedure = []() -> std::string { throw std::bad_alloc(); };
+    EXPECT_FALSE(
+        RunGuarded(application, procedure, [] { throw RunTimeError(ErrorNumber::FileNotFound); }));
+    EXPECT_EQ(Log(), "");
 }
 
 }  // namespace
