@@ -1,6 +1,7 @@
 #include "scan/ProjectPlugins.h"
 
 #include <string_view>
+#include <utility>
 
 #include "core/ErrorLog.h"
 #include "core/Records.h"
@@ -32,12 +33,12 @@ class RecordCollector {
         Account(keyLength + Quoted(state).size() + 1);
 
         const std::string name = reader.Text(bank.nameStart, bank.nameEnd);
-        const std::string key = QuotedFields({path_, name, type});
+        std::string key = QuotedFields({path_, name, type});
         lastRecord_ = key + "," + Quoted(state);
         lists_.PluginOccurrences.Append(lastRecord_);
 
-        lastRecord_ = key;
-        lists_.ProjectPluginKeys.Merge(key, state, [&] { Account(keyLength); });
+        lastRecord_ = std::move(key);
+        lists_.ProjectPluginKeys.Merge(lastRecord_, state, [&] { Account(keyLength); });
     }
 
   private:

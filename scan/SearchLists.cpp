@@ -2,7 +2,7 @@
 
 namespace marlo {
 
-const MergedStates::Entry& MergedStates::Merge(std::string key, std::string_view state,
+const MergedStates::Entry& MergedStates::Merge(std::string_view key, std::string_view state,
                                                const std::function<void()>& beforeAdding) {
     if (const auto found = index_.find(key); found != index_.end()) {
         Entry& entry = *found->second;
@@ -11,7 +11,7 @@ const MergedStates::Entry& MergedStates::Merge(std::string key, std::string_view
         return entry;
     }
     beforeAdding();
-    Entry& entry = entries_.Append({std::move(key), std::string(state)});
+    Entry& entry = entries_.Append({std::string(key), std::string(state)});
     try {
         index_.emplace(entry.key, &entry);
     } catch (...) {

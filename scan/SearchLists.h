@@ -53,7 +53,8 @@ class MergedStates {
     /// @param beforeAdding called before a new key is added; may throw to prevent it.
     /// @return the entry.
     const Entry& Merge(
-        std::string key, std::string_view state, const std::function<void()>& beforeAdding = [] {});
+        std::string_view key, std::string_view state,
+        const std::function<void()>& beforeAdding = [] {});
 
     std::size_t UpperBound() const { return entries_.UpperBound(); }
     const Entry& operator[](std::size_t index) const { return entries_[index]; }
