@@ -28,7 +28,8 @@ std::uint16_t Pair(const void* bytes) {
     std::uint16_t found = 0;
     for (std::size_t i = 0; i < kChunk; i += 2) {
         const std::uint16_t pair = Pair(chunk + i);
-        found = static_cast<std::uint16_t>(found | (pair == firstTwo) | (pair == middleTwo));
+        const bool mayBe = pair == firstTwo || pair == middleTwo;
+        found = static_cast<std::uint16_t>(found | static_cast<std::uint16_t>(mayBe));
     }
     return found != 0;
 }
@@ -60,7 +61,7 @@ std::uint16_t Pair(const void* bytes) {
 }
 
 bool HasAvx2() {
-    return __builtin_cpu_supports("avx2") != 0;
+    return __builtin_cpu_supports("avx2");
 }
 
 #else

@@ -13,7 +13,7 @@ constexpr std::size_t kGap = 2;
 
 }  // namespace
 
-Table::Table(std::vector<std::string> headers) {
+Table::Table(const std::vector<std::string>& headers) {
     AddRow(headers);
 }
 

@@ -10,7 +10,7 @@ namespace marlo::cli {
 /// (see `Printable`). A text wider than 60 cells is cut short, except in the last column.
 class Table {
   public:
-    explicit Table(std::vector<std::string> headers);
+    explicit Table(const std::vector<std::string>& headers);
 
     /// Adds a row of as many fields as there are headers.
     void AddRow(const std::vector<std::string>& fields);

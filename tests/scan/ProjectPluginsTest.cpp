@@ -36,7 +36,7 @@ class ProjectPluginsTest : public test::ApplicationTest {
     Texts Keys() const {
         Texts keys;
         for (const auto& [key, state] : lists.ProjectPluginKeys)
-            keys.push_back(key + " " + state);
+            keys.push_back(std::string(key).append(" ").append(state));
         return keys;
     }
 
