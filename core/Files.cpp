@@ -20,21 +20,27 @@ MessageAnswer AskToClose(MainWindow& window, const std::string& path) {
                                .title = ""});
 }
 
+using Attempt = std::function<void(std::error_code& error)>;
+
 /// Repeats `attempt`, which deletes or replaces the file at `path`, until it succeeds or the user
 /// cancels.
-/// @return the last attempt's error: none after success.
-template <class Attempt>
-std::error_code AskUntilFree(MainWindow& window, const std::string& path, MessageAnswer& answer,
-                             Attempt attempt) {
+/// @param answer receives the last button pressed; stays as it is when nothing was asked.
+void AskUntilFree(MainWindow& window, const std::string& path, MessageAnswer& answer,
+                  const Attempt& attempt) {
     for (;;) {
         std::error_code error;
         attempt(error);
         if (!error)
-            return error;
+            return;
         answer = AskToClose(window, path);
         if (answer == MessageAnswer::Cancel)
-            return error;
+            return;
     }
+}
+
+bool IsDenied(const std::error_code& error) {
+    return error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
+           error == std::errc::read_only_file_system || error == std::errc::device_or_resource_busy;
 }
 
 }  // namespace
@@ -60,18 +66,41 @@ void AskCloseFileInUse(const Application& application, MainWindow& window,
                      [&](std::error_code& failure) { platform::RemoveFile(path, failure); });
 }
 
-StagedFile::StagedFile(const Application& application, std::string_view relativePath)
-    : path_(ApplicationPath(application, relativePath)), stagingPath_(path_ + ".new") {
-    std::error_code error;
-    file_ = platform::File::OpenExclusively(stagingPath_, error);
-    ThrowOnPath(error);
+StagedFile::StagedFile(const Application& application, MainWindow& window,
+                       std::string_view relativePath)
+    : window_(window),
+      path_(ApplicationPath(application, relativePath)),
+      stagingPath_(path_ + ".new") {
     buffer_.reserve(kWriteSize);
 }
 
 StagedFile::~StagedFile() {
     std::error_code ignored;
-    if (!inPlace_)
+    if (isStaged_)
         platform::RemoveFile(stagingPath_, ignored);
+}
+
+/// Makes an attempt, and while an old file is there repeats it until the user cancels.
+/// @return whether it succeeded.
+bool StagedFile::Try(const Attempt& attempt) {
+    std::error_code error;
+    if (platform::IsFile(path_, error)) {
+        MessageAnswer answer = MessageAnswer::None;
+        AskUntilFree(window_, path_, answer, attempt);
+        return answer != MessageAnswer::Cancel;
+    }
+    attempt(error);
+    ThrowOnPath(error);
+    return true;
+}
+
+bool StagedFile::Create() {
+    isStaged_ = Try([&](std::error_code& error) {
+        file_ = platform::File::OpenExclusively(stagingPath_, error);
+        if (!IsDenied(error))
+            ThrowOnPath(error);
+    });
+    return isStaged_;
 }
 
 void StagedFile::WriteLine(std::string_view text) {
@@ -87,24 +116,15 @@ void StagedFile::WriteOut() {
     buffer_.clear();
 }
 
-bool StagedFile::MoveIntoPlace(MainWindow& window) {
+bool StagedFile::MoveIntoPlace() {
     WriteOut();
     std::error_code error;
     file_.Flush(error);
     ThrowOn(error);
-    const auto move = [&](std::error_code& failure) {
-        platform::MoveIntoPlace(stagingPath_, path_, failure);
-    };
-    std::error_code ignored;
-    MessageAnswer answer = MessageAnswer::None;
-    if (platform::IsFile(path_, ignored))
-        error = AskUntilFree(window, path_, answer, move);
-    else
-        move(error);
-    inPlace_ = !error;
-    if (answer != MessageAnswer::Cancel)
-        ThrowOn(error);
-    return inPlace_;
+    const bool moved = Try(
+        [&](std::error_code& failure) { platform::MoveIntoPlace(stagingPath_, path_, failure); });
+    isStaged_ = !moved;
+    return moved;
 }
 
 }  // namespace marlo

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "core/Application.h"
 #include "core/MainWindow.h"
@@ -25,37 +27,44 @@ void AskCloseFileInUse(const Application& application, MainWindow& window,
 /// A new version of a file under the application folder, written beside it under another name
 /// and moved into place when it is complete. Whatever ends the program, the file is the whole old
 /// one or the whole new one. A version that is not moved into place is deleted.
+///
+/// As long as the old file is there and nothing may be put in its place, the user is asked to close
+/// whatever program holds it, with the same question as `AskCloseFileInUse`. `Create` and
+/// `MoveIntoPlace` return false when the user cancels; the old file is then as it was.
 class StagedFile {
   public:
-    /// Starts a new version.
     /// @param relativePath the file, with a "\" in front (see `ApplicationPath`).
-    /// @throws RunTimeError when the new version cannot be created; "Permission denied" also when
-    ///         another running program is writing one.
-    StagedFile(const Application& application, std::string_view relativePath);
+    StagedFile(const Application& application, MainWindow& window, std::string_view relativePath);
     StagedFile(const StagedFile&) = delete;
     StagedFile& operator=(const StagedFile&) = delete;
     StagedFile(StagedFile&&) = delete;
     StagedFile& operator=(StagedFile&&) = delete;
     ~StagedFile();
 
+    /// Creates the new version. Asks while that is denied, also because another running program
+    /// is writing one.
+    /// @throws RunTimeError when it cannot be created for another reason, or there is no old file
+    ///         to ask about.
+    bool Create();
+
     /// Writes `text` and the line end CR LF.
     /// @throws RunTimeError when the disk is full or fails.
     void WriteLine(std::string_view text);
 
-    /// Takes the old file's place. As long as the old file cannot be replaced, asks the user to
-    /// close whatever program holds it, with the same question as `AskCloseFileInUse`.
-    /// @return false when the user cancelled; the old file is then as it was.
-    /// @throws RunTimeError when something else than a file in use is in the way.
-    bool MoveIntoPlace(MainWindow& window);
+    /// Takes the old file's place. Asks while the old file cannot be replaced.
+    /// @throws RunTimeError when something else than a file is in the way, or the disk is full.
+    bool MoveIntoPlace();
 
   private:
     void WriteOut();
+    bool Try(const std::function<void(std::error_code& error)>& attempt);
 
+    MainWindow& window_;
     std::string path_;
     std::string stagingPath_;
     platform::File file_;
     std::string buffer_;
-    bool inPlace_ = false;
+    bool isStaged_ = false;  ///< there is a new version that is not in place
 };
 
 }  // namespace marlo

@@ -34,8 +34,8 @@ class File {
     static File OpenForAppending(const std::string& path, std::error_code& error);
 
     /// Opens an empty file that nobody else may open this way until it is closed, or this program
-    /// ends in whatever way. What an earlier owner left in it is dropped. While another program
-    /// has it open so, this fails with `errc::device_or_resource_busy`.
+    /// ends in whatever way. What an earlier owner left in it is dropped. A link is not followed.
+    /// While another program has it open so, this fails with `errc::device_or_resource_busy`.
     static File OpenExclusively(const std::string& path, std::error_code& error);
 
     /// Reads into `buffer` from byte `offset` (0-based) until it is full or the file ends.

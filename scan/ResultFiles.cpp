@@ -13,18 +13,22 @@ namespace {
 
 bool WriteOccurrences(const Application& application, MainWindow& window,
                       const TextList& occurrences) {
-    StagedFile file(application, "\\resultfiles\\results.csv");
+    StagedFile file(application, window, "\\resultfiles\\results.csv");
+    if (!file.Create())
+        return false;
     for (const std::string& occurrence : occurrences)
         file.WriteLine(occurrence);
-    return file.MoveIntoPlace(window);
+    return file.MoveIntoPlace();
 }
 
 bool WriteStates(const Application& application, MainWindow& window, std::string_view relativePath,
                  const MergedStates& states) {
-    StagedFile file(application, relativePath);
+    StagedFile file(application, window, relativePath);
+    if (!file.Create())
+        return false;
     for (const auto& [key, state] : states)
         file.WriteLine(key + "," + Quoted(state));
-    return file.MoveIntoPlace(window);
+    return file.MoveIntoPlace();
 }
 
 /// Merges the plug-ins of all projects by name and type.

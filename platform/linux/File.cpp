@@ -94,7 +94,7 @@ File File::OpenForAppending(const std::string& path, std::error_code& error) {
 
 File File::OpenExclusively(const std::string& path, std::error_code& error) {
     for (;;) {
-        File file = Open(path, O_WRONLY | O_CREAT, error);
+        File file = Open(path, O_WRONLY | O_CREAT | O_NOFOLLOW, error);
         if (error)
             return {};
         if (flock(file.handle_, LOCK_EX | LOCK_NB) != 0) {

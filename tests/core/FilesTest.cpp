@@ -1,4 +1,5 @@
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <unistd.h>
 
@@ -35,6 +36,16 @@ class FilesTest : public test::ApplicationTest {
                " is being used by another program. Close that program and click Ok to continue";
     }
 };
+
+/// The number of the failure that `body` ends with.
+ErrorNumber FailureOf(const std::function<void()>& body) {
+    try {
+        body();
+    } catch (const RunTimeError& failure) {
+        return failure.Number();
+    }
+    return ErrorNumber::None;
+}
 
 /// The same with this process as an ordinary user; only a super-user can make another user's file.
 class HeldFileTest : public FilesTest {
@@ -117,74 +128,128 @@ TEST_F(HeldFileTest, AskCloseFileInUseDeletesOnceTheFileIsFree) {
 
 TEST_F(FilesTest, AStagedFileIsNotSeenBeforeItIsInPlace) {
     folder.Write("resultfiles/results.csv", "old");
-    StagedFile file(application, kResults);
+    StagedFile file(application, window, kResults);
+    EXPECT_TRUE(file.Create());
     file.WriteLine("new");
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
-    EXPECT_TRUE(file.MoveIntoPlace(window));
+    EXPECT_TRUE(file.MoveIntoPlace());
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
     EXPECT_TRUE(window.events.empty());
 }
 
 TEST_F(FilesTest, AStagedFileThatIsGivenUpLeavesNothingBehind) {
     folder.Write("resultfiles/results.csv", "old");
-    { StagedFile(application, kResults).WriteLine("new"); }
+    {
+        StagedFile file(application, window, kResults);
+        EXPECT_TRUE(file.Create());
+        file.WriteLine("new");
+    }
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
     EXPECT_FALSE(folder.Exists("resultfiles/results.csv.new"));
 }
 
 TEST_F(FilesTest, WhatAKilledRunLeftIsOverwritten) {
     folder.Write("resultfiles/results.csv.new", std::string(1000, 'x'));
-    StagedFile file(application, kResults);
+    StagedFile file(application, window, kResults);
+    EXPECT_TRUE(file.Create());
     file.WriteLine("new");
-    EXPECT_TRUE(file.MoveIntoPlace(window));
+    EXPECT_TRUE(file.MoveIntoPlace());
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
 }
 
-TEST_F(FilesTest, TwoProgramsDoNotStageTheSameFileAtOnce) {
-    const StagedFile first(application, kResults);
-    try {
-        const StagedFile second(application, kResults);
-        FAIL() << "the second one was let in";
-    } catch (const RunTimeError& failure) {
-        EXPECT_EQ(failure.Number(), ErrorNumber::PermissionDenied);
+TEST_F(FilesTest, ALinkInTheNewVersionsPlaceIsNotFollowed) {
+    const std::string target = folder.Write("precious", "precious");
+    std::filesystem::create_symlink(target, folder.Path("resultfiles/results.csv.new"));
+    StagedFile file(application, window, kResults);
+    EXPECT_EQ(FailureOf([&] { file.Create(); }), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(folder.Read("precious"), "precious");
+}
+
+TEST_F(FilesTest, WhileAnotherProgramStagesTheFileTheUserIsAsked) {
+    folder.Write("resultfiles/results.csv", "old");
+    StagedFile first(application, window, kResults);
+    EXPECT_TRUE(first.Create());
+    first.WriteLine("first");
+    window.answers = {MessageAnswer::Ok, MessageAnswer::Cancel};
+    {
+        StagedFile second(application, window, kResults);
+        EXPECT_FALSE(second.Create());
     }
+    EXPECT_EQ(window.MessageTexts(), (std::vector{Question(), Question()}));
+    EXPECT_TRUE(first.MoveIntoPlace());
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "first\r\n");
+}
+
+TEST_F(FilesTest, WithoutAnOldFileToAskAboutBeingDeniedIsAFailure) {
+    StagedFile first(application, window, kResults);
+    EXPECT_TRUE(first.Create());
+    StagedFile second(application, window, kResults);
+    EXPECT_EQ(FailureOf([&] { second.Create(); }), ErrorNumber::PermissionDenied);
+    EXPECT_TRUE(window.events.empty());
 }
 
 TEST_F(FilesTest, AStagedFileLargerThanItsBufferIsWhole) {
     std::string expected;
-    StagedFile file(application, kResults);
+    StagedFile file(application, window, kResults);
+    EXPECT_TRUE(file.Create());
     for (int i = 0; i < 50000; ++i) {
         file.WriteLine("line " + std::to_string(i));
         expected += "line " + std::to_string(i) + "\r\n";
     }
-    file.MoveIntoPlace(window);
+    EXPECT_TRUE(file.MoveIntoPlace());
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), expected);
 }
 
 TEST_F(FilesTest, AFolderInTheFilesPlaceIsAFailureWithoutAQuestion) {
     folder.MakeFolder("resultfiles/results.csv");
-    StagedFile file(application, kResults);
-    EXPECT_THROW(file.MoveIntoPlace(window), RunTimeError);
+    StagedFile file(application, window, kResults);
+    EXPECT_TRUE(file.Create());
+    EXPECT_EQ(FailureOf([&] { file.MoveIntoPlace(); }), ErrorNumber::PathFileAccess);
     EXPECT_TRUE(window.events.empty());
 }
 
 TEST_F(FilesTest, WithoutTheResultFolderThePathIsNotFound) {
     std::filesystem::remove_all(folder.Path("resultfiles"));
-    try {
-        const StagedFile file(application, kResults);
-        FAIL() << "made without a folder";
-    } catch (const RunTimeError& failure) {
-        EXPECT_EQ(failure.Number(), ErrorNumber::PathNotFound);
+    StagedFile file(application, window, kResults);
+    EXPECT_EQ(FailureOf([&] { file.Create(); }), ErrorNumber::PathNotFound);
+}
+
+TEST_F(FilesTest, InAReadOnlyFolderTheUserIsAskedUntilItIsWritable) {
+    folder.Write("resultfiles/results.csv", "old");
+    SetResultFolder(perms{0555});
+    if (getuid() == 0) {
+        ASSERT_EQ(chown(folder.Path("resultfiles").c_str(), 65534, 65534), 0);
     }
+    const test::OrdinaryUser user;
+    window.onMessage = [&](const Message&) {
+        permissions(folder.Path("resultfiles"), perms{0755});
+    };
+    StagedFile file(application, window, kResults);
+    EXPECT_TRUE(file.Create());
+    file.WriteLine("new");
+    EXPECT_TRUE(file.MoveIntoPlace());
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
+    EXPECT_EQ(window.MessageTexts(), std::vector{Question()});
+}
+
+TEST_F(FilesTest, CancelInAReadOnlyFolderLeavesTheOldFile) {
+    folder.Write("resultfiles/results.csv", "old");
+    SetResultFolder(perms{0555});
+    const test::OrdinaryUser user;
+    window.answers = {MessageAnswer::Cancel};
+    StagedFile file(application, window, kResults);
+    EXPECT_FALSE(file.Create());
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
 }
 
 TEST_F(HeldFileTest, AStagedFileLeavesTheOldOneWhenTheUserCancels) {
     const test::OrdinaryUser user;
     window.answers = {MessageAnswer::Cancel};
     {
-        StagedFile file(application, kResults);
+        StagedFile file(application, window, kResults);
+        EXPECT_TRUE(file.Create());
         file.WriteLine("new");
-        EXPECT_FALSE(file.MoveIntoPlace(window));
+        EXPECT_FALSE(file.MoveIntoPlace());
     }
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
     EXPECT_FALSE(folder.Exists("resultfiles/results.csv.new"));
@@ -198,9 +263,10 @@ TEST_F(HeldFileTest, AStagedFileTakesItsPlaceOnceTheOldOneIsFree) {
     };
     {
         const test::OrdinaryUser user;
-        StagedFile file(application, kResults);
+        StagedFile file(application, window, kResults);
+        EXPECT_TRUE(file.Create());
         file.WriteLine("new");
-        EXPECT_TRUE(file.MoveIntoPlace(window));
+        EXPECT_TRUE(file.MoveIntoPlace());
     }
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
 }
