@@ -26,7 +26,7 @@ class Report final : public benchmark::ConsoleReporter {
 
 /// Asks for a line in the table: how the times of two benchmarks compare.
 struct Comparison {
-    std::string what;         ///< what the ratio tells, with its bound
+    std::string what;         ///< what the ratio tells
     std::string numerator;    ///< a benchmark's name
     std::string denominator;  ///< a benchmark's name
     double atLeast = 0;

@@ -59,8 +59,9 @@ void RemoveFile(const std::string& path, std::error_code& error);
 /// the new one. Both paths are on one volume.
 void MoveIntoPlace(const std::string& from, const std::string& to, std::error_code& error);
 
-/// The path of an existing folder or file with every link and relative step resolved.
-std::string CanonicalPath(const std::string& path, std::error_code& error);
+/// `path` from the root on, without "." steps and doubled separators, and without a separator at
+/// its end. Links stay as they are, except that a path with ".." steps is resolved through them.
+std::string FullPath(const std::string& path, std::error_code& error);
 
 /// The folder that holds the running program, without a separator at its end; "." when the system
 /// does not tell.

@@ -14,7 +14,7 @@ bool IsTerminal(Stream stream);
 int TerminalWidth(Stream stream);
 
 /// From now on, the first interrupt key (Ctrl-C) is noted rather than ending the program; a second
-/// one ends it.
+/// one ends it. Where interrupts are ignored, they stay so.
 void NoteInterrupts();
 
 /// Whether an interrupt was noted since `NoteInterrupts`.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,20 +27,21 @@ struct PluginsOptions {
     OutputFormat format = OutputFormat::Table;
 };
 
-/// Prints the plug-in uses of project files; touches no result file.
+/// Prints the plug-in uses of project files, by their full paths; touches no result file.
 /// @return kFailed when a file could not be scanned, which is said on the standard error stream;
 ///         what was found is printed all the same.
 int RunPlugins(const Environment& environment, const PluginsOptions& options);
 
 struct SearchOptions {
-    std::string folder;  ///< empty: the folder of the last search
+    std::optional<std::string> folder;  ///< nothing: the folder of the last search
     bool includeSubfolders = true;
     bool showProgress = false;  ///< also where the standard error stream is no terminal
 };
 
 /// Runs a whole search and prints a summary.
-/// @return kWrongUsage when there is no folder to search, kCancelled after an interrupt, kFailed
-///         when anything failed, which is said on the standard error stream.
+/// @return kWrongUsage when there is no folder to search, kCancelled after an interrupt that came
+///         before the result files were written or at a question about them, kFailed when anything
+///         failed, which is said on the standard error stream.
 int RunSearch(const Environment& environment, const SearchOptions& options);
 
 /// Flushes the standard output.

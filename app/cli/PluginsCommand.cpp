@@ -1,6 +1,7 @@
 #include <iostream>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -11,6 +12,7 @@
 #include "app/cli/TerminalWindow.h"
 #include "core/Records.h"
 #include "core/Text.h"
+#include "platform/FileSystem.h"
 #include "platform/Terminal.h"
 #include "scan/ProjectPlugins.h"
 #include "scan/SearchLists.h"
@@ -89,7 +91,7 @@ void Print(const std::vector<Line>& lines, OutputFormat format) {
 }  // namespace
 
 int RunPlugins(const Environment& environment, const PluginsOptions& options) {
-    TerminalWindow window({}, ProgressStyle::None);
+    TerminalWindow window(ProgressStyle::None);
     const Application application{environment.applicationFolder, environment.clock,
                                   environment.desktop,
                                   [&](const ErrorEntry& entry) { window.ShowLogEntry(entry); }};
@@ -98,15 +100,19 @@ int RunPlugins(const Environment& environment, const PluginsOptions& options) {
     // For each file, where its records end in the two lists.
     std::vector<std::size_t> lastOccurrences;
     std::vector<std::size_t> lastKeys;
-    for (const std::string& file : options.files) {
+    std::vector<std::string> files;
+    for (const std::string& given : options.files) {
+        // A search would list them by their full paths.
+        std::error_code ignored;
+        const std::string& file = files.emplace_back(platform::FullPath(given, ignored));
         allScansOk = GetPlugins4Project(application, lists, file) && allScansOk;
         lastOccurrences.push_back(lists.PluginOccurrences.UpperBound());
         lastKeys.push_back(lists.ProjectPluginKeys.UpperBound());
     }
     std::vector<Line> lines;
     std::size_t index = 1;
-    for (std::size_t i = 0; i < options.files.size(); ++i) {
-        const std::string& file = options.files[i];
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        const std::string& file = files[i];
         if (options.merged)
             for (; index <= lastKeys[i]; ++index) {
                 const auto& entry = lists.ProjectPluginKeys[index];

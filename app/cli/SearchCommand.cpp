@@ -36,34 +36,40 @@ void PrintSummary(const SearchSummary& summary) {
 }
 
 int ExitCodeOf(const SearchSummary& summary, const TerminalWindow& window) {
-    if (summary.outcome == SearchOutcome::Cancelled)
+    if (summary.outcome == SearchOutcome::Cancelled || window.WasInterruptedAtQuestion())
         return kCancelled;
     return window.SawFailure() || summary.outcome != SearchOutcome::Written ? kFailed : kDone;
+}
+
+int Complain(int exitCode, const std::string& text) {
+    std::cerr << "marlo-cli: search: " << Printable(text) << '\n';
+    return exitCode;
 }
 
 }  // namespace
 
 int RunSearch(const Environment& environment, const SearchOptions& options) {
-    Application application{
-        environment.applicationFolder, environment.clock, environment.desktop, {}};
+    TerminalWindow window(StyleFor(options));
+    const Application application{environment.applicationFolder, environment.clock,
+                                  environment.desktop,
+                                  [&](const ErrorEntry& entry) { window.ShowLogEntry(entry); }};
     const std::string asked =
-        options.folder.empty() ? getSetting(application, setting::kLastFolder) : options.folder;
-    if (asked.empty()) {
-        std::cerr << "marlo-cli: search: no FOLDER is given, and none was searched before\n";
-        return kWrongUsage;
-    }
+        options.folder ? *options.folder : getSetting(application, setting::kLastFolder);
+    if (asked.empty() && window.SawFailure())
+        return kFailed;
+    if (asked.empty())
+        return Complain(kWrongUsage, options.folder
+                                         ? "FOLDER is empty"
+                                         : "no FOLDER is given, and none was searched before");
     // A mistyped folder would count as one without projects, and empty the result files.
     std::error_code error;
-    const std::string folder = platform::CanonicalPath(asked, error);
-    if (error || !platform::IsFolder(folder, error)) {
-        std::cerr << "marlo-cli: search: " << Printable(asked) << ": no such folder\n";
-        return kFailed;
-    }
+    const std::string folder = platform::FullPath(asked, error);
+    if (error || !platform::IsFolder(folder, error))
+        return Complain(kFailed, asked + ": no such folder");
 
-    const MessageAnswer subfolders =
-        options.includeSubfolders ? MessageAnswer::Yes : MessageAnswer::No;
-    TerminalWindow window({.folder = folder, .includeSubfolders = subfolders}, StyleFor(options));
-    application.onErrorLogged = [&](const ErrorEntry& entry) { window.ShowLogEntry(entry); };
+    window.SetAnswers(
+        {.folder = folder,
+         .includeSubfolders = options.includeSubfolders ? MessageAnswer::Yes : MessageAnswer::No});
     platform::NoteInterrupts();
     SearchLists lists;
     const SearchSummary summary = GetPlugins4AllProjects(application, window, lists);

@@ -32,9 +32,6 @@ bool CanAsk() {
 
 }  // namespace
 
-TerminalWindow::TerminalWindow(Answers answers, ProgressStyle progress)
-    : answers_(std::move(answers)), progress_(progress) {}
-
 void TerminalWindow::SetText1(const std::string& text) {
     text1_ = text;
 }
@@ -84,6 +81,7 @@ MessageAnswer TerminalWindow::Ask(const Message& message) {
         return MessageAnswer::Cancel;
     std::cerr << "[o]k or [c]ancel? " << std::flush;
     const auto line = platform::ReadLine();
+    interruptedAtQuestion_ = !line && platform::Interrupted();
     const bool isOk = line && (line->starts_with('o') || line->starts_with('O'));
     return isOk ? MessageAnswer::Ok : MessageAnswer::Cancel;
 }
@@ -94,6 +92,7 @@ std::string TerminalWindow::PickFolder(const std::string& /*prompt*/,
 }
 
 void TerminalWindow::ShowLogEntry(const ErrorEntry& entry) {
+    sawFailure_ = true;
     Say(Shortened(entry.procedure) + ": " + entry.description + " (error " +
         std::to_string(entry.number) + ")");
 }

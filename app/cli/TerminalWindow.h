@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "app/cli/ProgressLine.h"
 #include "core/Application.h"
@@ -19,13 +20,15 @@ struct Answers {
 /// elsewhere. The interrupt key is the Cancel button.
 class TerminalWindow final : public MainWindow {
   public:
-    TerminalWindow(Answers answers, ProgressStyle progress);
+    explicit TerminalWindow(ProgressStyle progress) : progress_(progress) {}
+
+    void SetAnswers(Answers answers) { answers_ = std::move(answers); }
 
     void SetText1(const std::string& text) override;
     void SetText2(const std::string& text) override;
     void ClearStatusBar() override;
     void Repaint() override;
-    void LetEventsRun() override {}
+    void LetEventsRun() override { Repaint(); }
     std::string CancelTag() const override;
     void SetCancelTag(const std::string& tag) override;
     void DisableButtons() override {}
@@ -36,8 +39,11 @@ class TerminalWindow final : public MainWindow {
     /// Says what went to the error log.
     void ShowLogEntry(const ErrorEntry& entry);
 
-    /// Whether a message told of a failure.
+    /// Whether a message or a log entry told of a failure.
     bool SawFailure() const { return sawFailure_; }
+
+    /// Whether the interrupt key answered a question.
+    bool WasInterruptedAtQuestion() const { return interruptedAtQuestion_; }
 
   private:
     void Say(const std::string& text);
@@ -50,6 +56,7 @@ class TerminalWindow final : public MainWindow {
     std::string text2_;
     std::string cancelTag_;
     bool sawFailure_ = false;
+    bool interruptedAtQuestion_ = false;
 };
 
 }  // namespace marlo::cli

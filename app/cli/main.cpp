@@ -1,9 +1,12 @@
+#include <algorithm>
 #include <functional>
 #include <iostream>
 #include <map>
 #include <sstream>
 #include <string>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -38,20 +41,27 @@ class CommandLine {
                         "(default: the program's own folder)")
             ->type_name("DIR");
         app_.footer(
+            "--app-folder DIR works with every command.\n"
             "Exit codes: 0 done, 1 something failed (said on the standard error stream),\n"
             "2 wrong usage, 130 cancelled.");
         AddPlugins();
         AddSearch();
     }
 
-    int Run(int argc, const char* const* argv) {
+    /// @param arguments without the program's name.
+    int Run(std::vector<std::string> arguments) {
+        // The parser takes a name in square brackets for a list of names.
+        for (std::string& argument : arguments)
+            if (argument.starts_with('[') && argument.ends_with(']'))
+                argument = platform::JoinPath(".", argument);
+        std::reverse(arguments.begin(), arguments.end());  // the order that it wants
         try {
-            app_.parse(argc, argv);
+            app_.parse(std::move(arguments));
         } catch (const CLI::ParseError& ending) {
             return Report(ending);
         }
         std::error_code error;
-        const std::string folder = platform::CanonicalPath(applicationFolder_, error);
+        const std::string folder = platform::FullPath(applicationFolder_, error);
         if (error || !platform::IsFolder(folder, error)) {
             std::cerr << "marlo-cli: the application folder " << Printable(applicationFolder_)
                       << " does not exist\n";
@@ -97,8 +107,9 @@ class CommandLine {
             "search", "Search a folder of projects and write the result files",
             [this](const Environment& environment) { return RunSearch(environment, search_); });
         command
-            ->add_option("FOLDER", search_.folder,
-                         "The folder to search (default: the one that was searched last)")
+            ->add_option_function<std::string>(
+                "FOLDER", [this](const std::string& folder) { search_.folder = folder; },
+                "The folder to search (default: the one that was searched last)")
             ->type_name("");
         command->add_flag_callback(
             "--no-subfolders", [this] { search_.includeSubfolders = false; },
@@ -132,5 +143,5 @@ class CommandLine {
 }  // namespace marlo::cli
 
 int main(int argc, char** argv) {
-    return marlo::cli::CommandLine().Run(argc, argv);
+    return marlo::cli::CommandLine().Run({argv + 1, argv + argc});
 }

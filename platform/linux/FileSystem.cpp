@@ -1,5 +1,6 @@
 #include "platform/FileSystem.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
@@ -108,8 +109,17 @@ void MoveIntoPlace(const std::string& from, const std::string& to, std::error_co
     error = rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : PosixError();
 }
 
-std::string CanonicalPath(const std::string& path, std::error_code& error) {
-    return std::filesystem::canonical(path, error).string();
+std::string FullPath(const std::string& path, std::error_code& error) {
+    const std::filesystem::path full = std::filesystem::absolute(path, error);
+    if (error)
+        return path;
+    // A ".." behind a link leads elsewhere than the names in front of it tell.
+    const bool hasParentSteps = std::find(full.begin(), full.end(), "..") != full.end();
+    std::string result = hasParentSteps ? std::filesystem::weakly_canonical(full, error).string()
+                                        : full.lexically_normal().string();
+    if (result.size() > 1 && result.ends_with('/'))
+        result.pop_back();
+    return result;
 }
 
 std::string ProgramFolder() {

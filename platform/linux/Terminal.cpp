@@ -60,6 +60,11 @@ int TerminalWidth(Stream stream) {
 }
 
 void NoteInterrupts() {
+    struct sigaction inherited {};
+    sigaction(SIGINT, nullptr, &inherited);
+    // A script's background job does not end when somebody interrupts the script's terminal.
+    if (inherited.sa_handler == SIG_IGN)
+        return;
     struct sigaction action {};
     action.sa_handler = NoteInterrupt;
     sigemptyset(&action.sa_mask);

@@ -68,7 +68,7 @@ TEST_F(KillTest, AKillAtAnyMomentLeavesEveryResultFileWhole) {
             Program::Start(CommandLine({"search", libraries[static_cast<std::size_t>(kill) % 2]}));
         // Half of the kills come while the files are written, the rest whenever they come.
         const bool duringWriting = kill % 4 < 2;
-        while (duringWriting && !std::filesystem::exists(NewVersion()) &&
+        while (duringWriting && program.IsRunning() && !std::filesystem::exists(NewVersion()) &&
                LastWritten() == lastWritten)
             usleep(200);
         const auto most = std::chrono::duration_cast<std::chrono::microseconds>(

@@ -83,6 +83,21 @@ TEST_F(PluginsCommandTest, AFileThatCannotBeScannedIsSaidAndTheOthersArePrinted)
               "marlo-cli: GetPlugins4Project " + gone + " : File not found (error 53)\n");
 }
 
+TEST_F(PluginsCommandTest, ARelativePathIsListedAsASearchWouldListIt) {
+    const std::string path = AddProject("a.cpr", {{.name = "Delay"}});
+    const std::string command =
+        "cd '" + Songs() + "' && " + MARLO_CLI + " plugins ./a.cpr --format csv";
+    EXPECT_EQ(test::Run({"/bin/sh", "-c", command}).out,
+              "\"" + path + "\",\"Delay\",\"VST    \",\"On\"\r\n");
+}
+
+TEST_F(PluginsCommandTest, AFileNamedInSquareBracketsIsOneFile) {
+    AddProject("[a,b]", {{.name = "Delay"}});
+    const std::string command =
+        "cd '" + Songs() + "' && " + MARLO_CLI + " plugins '[a,b]' --format csv";
+    EXPECT_NE(test::Run({"/bin/sh", "-c", command}).out.find("[a,b]"), std::string::npos);
+}
+
 TEST_F(PluginsCommandTest, NoResultFileIsTouched) {
     Marlo({"plugins", AddUsual()});
     EXPECT_TRUE(std::filesystem::is_empty(folder.Path("app/resultfiles")));

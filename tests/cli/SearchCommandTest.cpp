@@ -71,6 +71,44 @@ TEST_F(SearchCommandTest, AMissingFolderIsSaidAndTheOldResultsStay) {
     EXPECT_EQ(Marlo({"search", folder.Write("file", "")}).exitCode, 1);
 }
 
+TEST_F(SearchCommandTest, AnEmptyFolderIsWrongUsageAndNotTheLastOne) {
+    EXPECT_EQ(Marlo({"search", Songs()}).exitCode, 0);
+    folder.Write("app/resultfiles/results.csv", "old");
+    const auto result = Marlo({"search", ""});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_EQ(result.error, "marlo-cli: search: FOLDER is empty\n");
+    EXPECT_EQ(Result("results.csv"), "old");
+}
+
+TEST_F(SearchCommandTest, SettingsThatCannotBeReadOrWrittenAreSaidAndTheExitCodeIs1) {
+    folder.MakeFolder("app/settings.ini");
+    const auto withFolder = Marlo({"search", Songs()});
+    EXPECT_EQ(withFolder.exitCode, 1);
+    EXPECT_NE(withFolder.error.find("WriteSetting: Path/File access error"), std::string::npos);
+    const auto withoutFolder = Marlo({"search"});
+    EXPECT_EQ(withoutFolder.exitCode, 1);
+    EXPECT_EQ(withoutFolder.error, "marlo-cli: getSetting: Path/File access error (error 75)\n");
+}
+
+TEST_F(SearchCommandTest, AFolderIsListedUnderTheNameThatItWasGivenBy) {
+    AddProject("a.cpr", {{.name = "Delay"}});
+    std::filesystem::create_directory_symlink(Songs(), folder.Path("link"));
+    EXPECT_EQ(Marlo({"search", folder.Path("link")}).exitCode, 0);
+    EXPECT_NE(Result("results.csv").find(folder.Path("link/a.cpr")), std::string::npos);
+}
+
+TEST_F(SearchCommandTest, AnIgnoredInterruptStaysIgnored) {
+    AddManyProjects();
+    std::string command = "trap '' INT; exec";
+    for (const std::string& word : CommandLine({"search", Songs()}))
+        command += " '" + word + "'";
+    auto program = Program::Start({"/bin/sh", "-c", command});
+    while (!folder.Exists("app/settings.ini") || folder.Read("app/settings.ini").size() < 768)
+        usleep(1000);
+    program.Send(SIGINT);
+    EXPECT_EQ(program.Wait(), 0);
+}
+
 TEST_F(SearchCommandTest, ARelativeFolderIsRememberedByItsFullPath) {
     AddProject("a.cpr", {{.name = "Delay"}});
     const std::string command = "cd '" + Songs() + "/..' && " + MARLO_CLI + " --app-folder app " +
@@ -163,6 +201,8 @@ TEST_F(HeldResultsTest, WithoutATerminalTheQuestionIsAnsweredWithCancel) {
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.error, Question() + "\n");
     EXPECT_EQ(Result("results.csv"), "old");
+    EXPECT_FALSE(folder.Exists("app/resultfiles/fln.csv"));
+    EXPECT_FALSE(folder.Exists("app/resultfiles/tln.csv"));
 }
 
 TEST_F(HeldResultsTest, OnATerminalTheQuestionIsAskedUntilTheFileIsFree) {
@@ -190,7 +230,7 @@ TEST_F(HeldResultsTest, TheInterruptKeyCancelsTheQuestion) {
     program.ReadUntil("[o]k or [c]ancel? ");
     program.Type("\x03");
     program.ReadAll();
-    EXPECT_EQ(program.Wait(), 1);
+    EXPECT_EQ(program.Wait(), 130);
     EXPECT_EQ(Result("results.csv"), "old");
 }
 
@@ -200,9 +240,8 @@ TEST_F(SearchCommandTest, WithoutATerminalThereIsNoProgressUnlessAskedFor) {
     EXPECT_EQ(Marlo({"search", Songs()}).error, "");
     const std::string a = folder.Path("songs/a.cpr");
     EXPECT_EQ(Marlo({"search", Songs(), "--progress"}).error,
-              "(1) Compiling list of SX Projects... " + a +
-                  "\n"
-                  "(2) Finding Plugins (50%) ... " +
+              "(1) Compiling list of SX Projects...\n"
+              "(2) Finding Plugins (50%) ... " +
                   a +
                   "\n"
                   "(2) Finding Plugins (100%) ... " +

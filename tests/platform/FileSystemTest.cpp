@@ -60,6 +60,18 @@ TEST_F(FileSystemTest, PathsAreJoinedByOneSeparator) {
     EXPECT_EQ(JoinPath("/", "a.cpr"), "/a.cpr");
 }
 
+TEST_F(FileSystemTest, AFullPathKeepsItsLinksAndLosesWhatIsNoName) {
+    folder.MakeFolder("real/sub");
+    std::filesystem::create_directory_symlink("real/sub", folder.Path("link"));
+    EXPECT_EQ(FullPath(folder.Path("link//./"), error), folder.Path("link"));
+    EXPECT_EQ(FullPath(folder.Path("link/../a"), error), folder.Path("real/a"));
+    EXPECT_EQ(FullPath(folder.Path("gone/b.cpr"), error), folder.Path("gone/b.cpr"));
+    EXPECT_EQ(FullPath("a.cpr", error),
+              JoinPath(std::filesystem::current_path().string(), "a.cpr"));
+    EXPECT_EQ(FullPath("/", error), "/");
+    EXPECT_FALSE(error);
+}
+
 TEST_F(FileSystemTest, MovingIntoPlaceReplacesAFile) {
     folder.Write("old", "old");
     MoveIntoPlace(folder.Write("new", "new"), folder.Path("old"), error);

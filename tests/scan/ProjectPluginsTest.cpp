@@ -310,6 +310,8 @@ TEST_F(ProjectPluginsTest, AProjectOf4GiBIsScannedWithin16MiB) {
     std::filesystem::resize_file(path, size);
     std::fstream(path, std::ios::binary | std::ios::in | std::ios::out | std::ios::ate) << bank;
 
+    // Earlier tests of this program may have used more.
+    std::ofstream("/proc/self/clear_refs") << 5;
     const long before = PeakMemory();
     EXPECT_TRUE(GetPlugins4Project(application, lists, path));
     EXPECT_LT(PeakMemory() - before, 16 * 1024);

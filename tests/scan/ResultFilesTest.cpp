@@ -62,6 +62,30 @@ TEST_F(ResultFilesTest, OnePluginInTwoProjectsIsMergedByProjectAndOverAll) {
     EXPECT_EQ(Tln(), "\"Delay\",\"VST\",\"On\"\r\n");
 }
 
+TEST_F(ResultFilesTest, AVstTypeIsPaddedInTwoFilesAndTrimmedInTheThird) {
+    AddUse("A.cpr", "Delay", "On");
+    Create();
+    EXPECT_NE(Results().find("\"VST    \""), std::string::npos);
+    EXPECT_NE(Fln().find("\"VST    \""), std::string::npos);
+    EXPECT_NE(Tln().find("\"VST\""), std::string::npos);
+}
+
+TEST_F(ResultFilesTest, CancelAtTheFirstQuestionWritesNothingFurtherAndIsNoFailure) {
+    WriteOldFiles();
+    permissions(folder.Path(), perms{0755});
+    permissions(folder.Path("resultfiles"), perms{0555});
+    AddUse("A.cpr", "Delay", "On");
+    window.answers = {MessageAnswer::Cancel};
+    {
+        const test::OrdinaryUser user;
+        EXPECT_TRUE(Create());
+    }
+    EXPECT_EQ(Results(), "old");
+    EXPECT_EQ(Fln(), "old");
+    EXPECT_EQ(Tln(), "old");
+    EXPECT_EQ(window.messages.size(), 1U);
+}
+
 TEST_F(ResultFilesTest, ALaterOnTurnsTheOverallStateOn) {
     AddUse("A.cpr", "Delay", "Off");
     AddUse("B.cpr", "Delay", "On");

@@ -211,6 +211,36 @@ TEST_F(SearchRunTest, AFileThatVanishesBeforeItsScanIsAFailedProject) {
     EXPECT_EQ(Log(), LogLine("GetPlugins4Project " + path + " ", 53, "File not found"));
 }
 
+TEST_F(SearchRunTest, ALockedProjectStillGivesResultFilesForTheOthers) {
+    const std::string locked = AddProject("a.cpr", "Delay");
+    AddProject("b.cpr", "Echo");
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms{0777});
+    std::filesystem::permissions(folder.Path("resultfiles"), std::filesystem::perms{0777});
+    std::filesystem::permissions(locked, std::filesystem::perms::none);
+    {
+        const test::OrdinaryUser user;
+        EXPECT_EQ(Search().failedProjects, 1U);
+    }
+    EXPECT_EQ(folder.Read("resultfiles/tln.csv"), "\"Echo\",\"VST\",\"On\"\r\n");
+    EXPECT_EQ(window.MessageTexts().back(), ErrorsMessage());
+    EXPECT_EQ(Log(), LogLine("GetPlugins4Project " + locked + " ", 70, "Permission denied"));
+}
+
+TEST_F(SearchRunTest, CancelAtTheFileInUseQuestionCountsAsACompletedRun) {
+    AddProject("a.cpr", "Delay");
+    folder.Write("resultfiles/results.csv", "old");
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms{0777});
+    std::filesystem::permissions(folder.Path("resultfiles"), std::filesystem::perms{0555});
+    window.answers = {MessageAnswer::Yes, MessageAnswer::Cancel};
+    {
+        const test::OrdinaryUser user;
+        EXPECT_EQ(Search().outcome, SearchOutcome::Written);
+    }
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
+    EXPECT_EQ(window.messages.size(), 2U);
+    EXPECT_EQ(getSetting(application, 11), "11-15-2026 03:10:22");
+}
+
 TEST_F(SearchRunTest, CancelAfterAFailedScanShowsBothMessages) {
     folder.Write("songs/a.cpr", "CcnK....FBCh" + std::string(100, '\0'));
     AddProject("b.cpr", "Delay");

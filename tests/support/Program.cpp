@@ -130,6 +130,12 @@ const std::string& Program::ReadAll() {
     return ReadUntil("");
 }
 
+bool Program::IsRunning() const {
+    siginfo_t ended{};
+    return waitid(P_PID, static_cast<id_t>(process_), &ended, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+           ended.si_pid == 0;
+}
+
 int Program::Wait() {
     int status = 0;
     waitpid(std::exchange(process_, 0), &status, 0);

@@ -42,6 +42,8 @@ class Program {
     /// Reads to the program's end. @return everything read since the start.
     const std::string& ReadAll();
 
+    bool IsRunning() const;
+
     /// Waits for the end. @return as `ProgramResult::exitCode`.
     int Wait();
 
