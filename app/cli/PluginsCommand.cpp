@@ -28,11 +28,21 @@ struct Line {
     std::string_view state;
 };
 
+/// A project, and where its records end in the list that is printed.
+struct ScannedFile {
+    std::string path;
+    std::size_t lastIndex = 0;
+};
+
 /// An occurrence record is a key record, a comma and the state in quotes.
 Line LineOfOccurrence(std::string_view project, std::string_view occurrence) {
     const std::size_t comma = occurrence.rfind(',');
     const std::string_view stateField = occurrence.substr(comma + 1);
     return {project, occurrence.substr(0, comma), stateField.substr(1, stateField.size() - 2)};
+}
+
+Line LineOfKey(std::string_view project, const MergedStates::Entry& entry) {
+    return {project, entry.key, entry.state};
 }
 
 /// The name may hold commas and quotes of its own, so it is what the fields around it leave over.
@@ -97,31 +107,22 @@ int RunPlugins(const Environment& environment, const PluginsOptions& options) {
                                   [&](const ErrorEntry& entry) { window.ShowLogEntry(entry); }};
     SearchLists lists;
     bool allScansOk = true;
-    // For each file, where its records end in the two lists.
-    std::vector<std::size_t> lastOccurrences;
-    std::vector<std::size_t> lastKeys;
-    std::vector<std::string> files;
+    std::vector<ScannedFile> scanned;
     for (const std::string& given : options.files) {
         // A search would list them by their full paths.
         std::error_code ignored;
-        const std::string& file = files.emplace_back(platform::FullPath(given, ignored));
-        allScansOk = GetPlugins4Project(application, lists, file) && allScansOk;
-        lastOccurrences.push_back(lists.PluginOccurrences.UpperBound());
-        lastKeys.push_back(lists.ProjectPluginKeys.UpperBound());
+        const std::string path = platform::FullPath(given, ignored);
+        allScansOk = GetPlugins4Project(application, lists, path) && allScansOk;
+        scanned.push_back({path, options.merged ? lists.ProjectPluginKeys.UpperBound()
+                                                : lists.PluginOccurrences.UpperBound()});
     }
     std::vector<Line> lines;
     std::size_t index = 1;
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        const std::string& file = files[i];
-        if (options.merged)
-            for (; index <= lastKeys[i]; ++index) {
-                const auto& entry = lists.ProjectPluginKeys[index];
-                lines.push_back({file, entry.key, entry.state});
-            }
-        else
-            for (; index <= lastOccurrences[i]; ++index)
-                lines.push_back(LineOfOccurrence(file, lists.PluginOccurrences[index]));
-    }
+    for (const auto& [path, lastIndex] : scanned)
+        for (; index <= lastIndex; ++index)
+            lines.push_back(options.merged
+                                ? LineOfKey(path, lists.ProjectPluginKeys[index])
+                                : LineOfOccurrence(path, lists.PluginOccurrences[index]));
     Print(lines, options.format);
     return FinishOutput(allScansOk ? kDone : kFailed);
 }

@@ -5,7 +5,6 @@
 #include "app/cli/Commands.h"
 #include "app/cli/TerminalText.h"
 #include "app/cli/TerminalWindow.h"
-#include "core/RunTimeError.h"
 #include "core/Settings.h"
 #include "platform/FileSystem.h"
 #include "platform/Terminal.h"
