@@ -12,6 +12,23 @@ namespace marlo::platform {
 /// Names that stay the same for one file or folder whatever path leads to it: device and number.
 using FileIdentity = std::pair<std::uint64_t, std::uint64_t>;
 
+/// What tells one version of a file from another. Times in nanoseconds.
+struct FileStamp {
+    FileIdentity identity;
+    std::uint64_t size = 0;
+    std::int64_t modified = 0;
+    std::int64_t changed = 0;  ///< the last change of the file or of what the system keeps about it
+
+    bool operator==(const FileStamp&) const = default;
+};
+
+/// The stamp of the file at `path`.
+FileStamp StampOf(const std::string& path, std::error_code& error);
+
+/// Whether the file's next change will show in its stamp. Right after a change another one may not,
+/// since the file system's clock ticks slowly.
+bool IsSettled(const FileStamp& stamp);
+
 /// The names in a folder, "." and ".." left out, in no particular order.
 struct FolderEntries {
     std::vector<std::string> files;    ///< whatever is not a folder

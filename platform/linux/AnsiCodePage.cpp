@@ -1,5 +1,6 @@
 #include "platform/AnsiCodePage.h"
 
+#include <algorithm>
 #include <array>
 
 namespace marlo::platform {
@@ -15,6 +16,17 @@ constexpr std::array<char32_t, 32> kSpecial = {
     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
+std::optional<char> ByteOf(char32_t character) {
+    const auto* const special = std::find(kSpecial.begin(), kSpecial.end(), character);
+    if (special != kSpecial.end())
+        return static_cast<char>(kFirstSpecial + (special - kSpecial.begin()));
+    const bool isSpecialByte =
+        character >= kFirstSpecial && character < kFirstSpecial + kSpecial.size();
+    if (isSpecialByte || character > 0xFF)
+        return std::nullopt;
+    return static_cast<char>(character);
+}
+
 }  // namespace
 
 std::u32string DecodeAnsi(std::string_view text) {
@@ -26,6 +38,18 @@ std::u32string DecodeAnsi(std::string_view text) {
         decoded += special ? kSpecial.at(byte - kFirstSpecial) : byte;
     }
     return decoded;
+}
+
+std::optional<std::string> EncodeAnsi(std::u32string_view text) {
+    std::string encoded;
+    encoded.reserve(text.size());
+    for (const char32_t character : text) {
+        const auto byte = ByteOf(character);
+        if (!byte)
+            return std::nullopt;
+        encoded += *byte;
+    }
+    return encoded;
 }
 
 }  // namespace marlo::platform

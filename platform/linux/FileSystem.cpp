@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
@@ -26,6 +27,10 @@ bool ReadStatus(const std::string& path, struct stat& status, std::error_code& e
     if (errno != ENOENT && errno != ENOTDIR)
         error = PosixError();
     return false;
+}
+
+std::int64_t Nanoseconds(const timespec& time) {
+    return time.tv_sec * std::int64_t{1'000'000'000} + time.tv_nsec;
 }
 
 bool IsFolderEntry(int folder, const dirent& entry) {
@@ -82,6 +87,22 @@ FolderEntries Folder::Entries(std::error_code& error) const {
         auto& names = IsFolderEntry(dirfd(handle), *entry) ? entries.folders : entries.files;
         names.emplace_back(name);
     }
+}
+
+FileStamp StampOf(const std::string& path, std::error_code& error) {
+    struct stat status {};
+    error = stat(path.c_str(), &status) == 0 ? std::error_code() : PosixError();
+    return {.identity = {status.st_dev, status.st_ino},
+            .size = static_cast<std::uint64_t>(status.st_size),
+            .modified = Nanoseconds(status.st_mtim),
+            .changed = Nanoseconds(status.st_ctim)};
+}
+
+bool IsSettled(const FileStamp& stamp) {
+    constexpr std::int64_t longestTick = 100'000'000;
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    return Nanoseconds(now) - stamp.changed > longestTick;
 }
 
 std::string JoinPath(std::string_view folder, std::string_view name) {

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <sys/stat.h>
 
+#include "platform/linux/Gio.h"
 #include "platform/linux/PosixError.h"
 
 namespace marlo::platform {
@@ -22,12 +23,20 @@ bool EndsWithIgnoringCase(const std::string& path, std::string_view lowerCaseExt
     return true;
 }
 
+/// The description that a file gets by its name alone.
+std::string DescriptionOf(const std::string& path) {
+    if (EndsWithIgnoringCase(path, ".cpr"))
+        return "CPR File";
+    return EndsWithIgnoringCase(path, ".dll") ? "Application Extension" : "";
+}
+
 }  // namespace
 
 std::string LinuxDesktop::FileTypeDescription(const std::string& path,
                                               std::error_code& error) const {
     error.clear();
-    if (!EndsWithIgnoringCase(path, ".cpr"))
+    const std::string description = DescriptionOf(path);
+    if (description.empty())
         return {};
     struct stat status {};
     if (stat(path.c_str(), &status) != 0) {
@@ -36,7 +45,11 @@ std::string LinuxDesktop::FileTypeDescription(const std::string& path,
             error = PosixError();
         return {};
     }
-    return S_ISREG(status.st_mode) ? "CPR File" : "";
+    return S_ISREG(status.st_mode) ? description : "";
+}
+
+std::optional<std::string> LinuxDesktop::ProgramForExtension(const std::string& extension) const {
+    return GioProgramForExtension(extension);
 }
 
 }  // namespace marlo::platform

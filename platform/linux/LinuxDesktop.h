@@ -4,11 +4,15 @@
 
 namespace marlo::platform {
 
-/// File types by extension: the desktops of Linux have no descriptions of their own for these
-/// files, so they get the ones that another system's shell would show.
+/// The desktops of Linux have no descriptions of their own for projects and libraries, so these get
+/// the ones that another system's shell would show.
 class LinuxDesktop final : public Desktop {
   public:
     std::string FileTypeDescription(const std::string& path, std::error_code& error) const override;
+
+    /// By GIO, which knows the desktop's mimeapps.list and .desktop files; empty where it is not
+    /// installed.
+    std::optional<std::string> ProgramForExtension(const std::string& extension) const override;
 };
 
 }  // namespace marlo::platform

@@ -1,7 +1,10 @@
 #include "platform/Machine.h"
 
+#include "platform/File.h"
+#include "platform/FileSystem.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxDesktop.h"
+#include "platform/linux/WinePrefix.h"
 
 namespace marlo::platform {
 
@@ -13,6 +16,16 @@ const Clock& SystemClock() {
 const Desktop& SystemDesktop() {
     static const LinuxDesktop desktop;
     return desktop;
+}
+
+Registry& SystemRegistry() {
+    static WinePrefix prefix(WinePrefix::UsersFolder());
+    return prefix;
+}
+
+std::unique_ptr<Registry> OpenWinePrefix(const std::string& folder, std::error_code& error) {
+    File::OpenForReading(JoinPath(folder, "system.reg"), error);
+    return error ? nullptr : std::make_unique<WinePrefix>(folder);
 }
 
 }  // namespace marlo::platform

@@ -84,5 +84,25 @@ TEST_F(FileSystemTest, TheProgramsFolderHoldsTheRunningProgram) {
     EXPECT_TRUE(IsFile(JoinPath(ProgramFolder(), MARLO_TEST_PROGRAM), error));
 }
 
+TEST_F(FileSystemTest, AFilesStampChangesWithTheFileAndStaysWithoutAChange) {
+    const std::string path = folder.Write("file", "1");
+    const FileStamp first = StampOf(path, error);
+    EXPECT_EQ(StampOf(path, error), first);
+    folder.Write("file", "12");
+    EXPECT_NE(StampOf(path, error), first);
+    EXPECT_FALSE(error);
+    StampOf(folder.Path("gone"), error);
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+}
+
+TEST_F(FileSystemTest, AStampIsSettledWhenTheLastChangeIsLongAgo) {
+    FileStamp stamp = StampOf(folder.Write("file", "1"), error);
+    EXPECT_FALSE(IsSettled(stamp));
+    stamp.changed -= 1'000'000'000;
+    EXPECT_TRUE(IsSettled(stamp));
+    stamp.changed += 3'000'000'000'000;
+    EXPECT_FALSE(IsSettled(stamp)) << "the clock went backwards";
+}
+
 }  // namespace
 }  // namespace marlo::platform

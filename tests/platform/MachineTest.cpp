@@ -27,8 +27,31 @@ TEST_F(DesktopTest, ARegularFileWithTheExtensionIsACprFileWhateverItsCase) {
         EXPECT_EQ(Describe(folder.Write(name, "")), "CPR File") << name;
 }
 
+TEST_F(DesktopTest, ALibraryIsAnApplicationExtensionWhateverItsCase) {
+    for (const char* name : {"a.dll", "b.DLL", "c.b.Dll"})
+        EXPECT_EQ(Describe(folder.Write(name, "")), "Application Extension") << name;
+    EXPECT_EQ(Describe(folder.MakeFolder("folder.dll")), "");
+}
+
+TEST_F(DesktopTest, TheProgramForAnExtensionIsTheDesktopsOwn) {
+    const std::string program = folder.Write("bin/Sheets & Co", "#!/bin/sh\n");
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    folder.Write("data/mime/globs2",
+                 "50:text/x-marlo-sheet:*.sheet\n50:text/x-marlo-none:*.none\n");
+    folder.Write("data/applications/sheets.desktop",
+                 "[Desktop Entry]\nType=Application\nName=Sheets\nExec=\"" + program +
+                     "\" %F\nMimeType=text/x-marlo-sheet;\n");
+    folder.Write("config/mimeapps.list",
+                 "[Default Applications]\ntext/x-marlo-sheet=sheets.desktop\n");
+    setenv("XDG_DATA_HOME", folder.Path("data").c_str(), 1);
+    setenv("XDG_DATA_DIRS", folder.Path("data").c_str(), 1);
+    setenv("XDG_CONFIG_HOME", folder.Path("config").c_str(), 1);
+    EXPECT_EQ(SystemDesktop().ProgramForExtension(".sheet"), program);
+    EXPECT_EQ(SystemDesktop().ProgramForExtension(".none"), "");
+}
+
 TEST_F(DesktopTest, OtherFilesHaveNoDescription) {
-    for (const char* name : {"a.txt", "cpr", "a.cpr.bak", "a.cprx", "a"})
+    for (const char* name : {"a.txt", "cpr", "a.cpr.bak", "a.cprx", "a", "a.dll.bak"})
         EXPECT_EQ(Describe(folder.Write(name, "")), "") << name;
 }
 

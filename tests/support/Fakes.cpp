@@ -50,6 +50,13 @@ std::string FakeDesktop::FileTypeDescription(const std::string& path,
     return error || found == descriptions.end() ? "" : found->second;
 }
 
+std::optional<std::string> FakeDesktop::ProgramForExtension(const std::string& extension) const {
+    if (programs.empty())
+        return std::nullopt;
+    const auto found = programs.find(extension);
+    return found == programs.end() ? "" : found->second;
+}
+
 void RecordingWindow::SetText1(const std::string& text) {
     text1 = text;
     events.push_back("Text1: " + text);

@@ -3,6 +3,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -27,7 +28,14 @@ class FakeDesktop final : public platform::Desktop {
     std::string FileTypeDescription(const std::string& path, std::error_code& error) const override;
 
     /// From an extension, with its dot, to the type's description.
-    std::map<std::string, std::string> descriptions = {{".cpr", "CPR File"}, {".CPR", "CPR File"}};
+    std::map<std::string, std::string> descriptions = {{".cpr", "CPR File"},
+                                                       {".CPR", "CPR File"},
+                                                       {".dll", "Application Extension"},
+                                                       {".DLL", "Application Extension"}};
+    std::optional<std::string> ProgramForExtension(const std::string& extension) const override;
+
+    /// From an extension to its program; empty for a desktop that keeps them in the registry.
+    std::map<std::string, std::string> programs;
     /// The names of files that cannot be asked about.
     std::set<std::string> unreadable;
 };

@@ -1,0 +1,71 @@
+#include "platform/linux/Gio.h"
+
+#include <dlfcn.h>
+#include <gio/gio.h>
+#include <memory>
+
+namespace marlo::platform {
+
+namespace {
+
+/// The functions of GIO that are needed, loaded on the spot.
+class Gio {
+  public:
+    Gio() {
+        void* const library = dlopen("libgio-2.0.so.0", RTLD_NOW);
+        isLoaded_ = library != nullptr && Find(library, "g_content_type_guess", guessType) &&
+                    Find(library, "g_app_info_get_default_for_type", defaultForType) &&
+                    Find(library, "g_app_info_get_commandline", commandOf) &&
+                    Find(library, "g_shell_parse_argv", parseCommand) &&
+                    Find(library, "g_find_program_in_path", findProgram) &&
+                    Find(library, "g_object_unref", release) && Find(library, "g_free", free) &&
+                    Find(library, "g_strfreev", freeAll);
+    }
+
+    bool IsLoaded() const { return isLoaded_; }
+
+    decltype(&g_content_type_guess) guessType = nullptr;
+    decltype(&g_app_info_get_default_for_type) defaultForType = nullptr;
+    decltype(&g_app_info_get_commandline) commandOf = nullptr;
+    decltype(&g_shell_parse_argv) parseCommand = nullptr;
+    decltype(&g_find_program_in_path) findProgram = nullptr;
+    decltype(&g_object_unref) release = nullptr;
+    decltype(&g_free) free = nullptr;
+    decltype(&g_strfreev) freeAll = nullptr;
+
+  private:
+    template <class Function>
+    static bool Find(void* library, const char* name, Function& function) {
+        function = reinterpret_cast<Function>(dlsym(library, name));
+        return function != nullptr;
+    }
+
+    bool isLoaded_ = false;
+};
+
+using Text = std::unique_ptr<char, decltype(&g_free)>;
+
+/// The full path of the program that a command starts; empty when it is not installed.
+std::string ProgramOf(const Gio& gio, const char* command) {
+    char** words = nullptr;
+    if (command == nullptr || gio.parseCommand(command, nullptr, &words, nullptr) == FALSE)
+        return {};
+    const std::unique_ptr<char*, decltype(&g_strfreev)> owner(words, gio.freeAll);
+    const Text program(gio.findProgram(*words), gio.free);
+    return program ? program.get() : std::string();
+}
+
+}  // namespace
+
+std::string GioProgramForExtension(const std::string& extension) {
+    static const Gio gio;
+    if (!gio.IsLoaded())
+        return {};
+    const std::string fileName = "file" + extension;
+    const Text type(gio.guessType(fileName.c_str(), nullptr, 0, nullptr), gio.free);
+    const std::unique_ptr<GAppInfo, decltype(&g_object_unref)> application(
+        gio.defaultForType(type.get(), FALSE), gio.release);
+    return application ? ProgramOf(gio, gio.commandOf(application.get())) : std::string();
+}
+
+}  // namespace marlo::platform

@@ -1,0 +1,168 @@
+#include "platform/linux/WineRegistryFile.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <limits>
+
+#include "platform/File.h"
+
+namespace marlo::platform {
+
+namespace {
+
+constexpr std::string_view kHeader = "WINE REGISTRY Version 2";
+
+/// The whole of a file; empty when it is missing.
+std::string ReadWhole(const std::string& path, std::error_code& error) {
+    const auto file = File::OpenForReading(path, error);
+    if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory)
+        error.clear();
+    else if (!error) {
+        const auto size = std::filesystem::file_size(path, error);
+        if (!error && size > std::numeric_limits<std::uint32_t>::max())
+            error = std::make_error_code(std::errc::file_too_large);
+        if (error)
+            return {};
+        std::string text(size, '\0');
+        text.resize(file.ReadAt(0, {reinterpret_cast<unsigned char*>(text.data()), size}, error));
+        return text;
+    }
+    return {};
+}
+
+bool HasHeader(std::string_view text) {
+    const std::string_view line = text.substr(0, text.find('\n'));
+    return line.substr(0, line.find('\r')) == kHeader;
+}
+
+std::size_t CountKeyLines(std::string_view text) {
+    std::size_t count = 0;
+    for (std::size_t at = text.find("\n["); at != std::string_view::npos;
+         at = text.find("\n[", at + 1))
+        ++count;
+    return count;
+}
+
+/// The step of a path at `index`, 0-based; empty when the path is shorter.
+std::string_view Step(std::string_view path, std::size_t index) {
+    const std::string_view head = Head(path, index + 1);
+    const std::string_view parent = Head(path, index);
+    return head.substr(parent.empty() ? 0 : std::min(parent.size() + 1, head.size()));
+}
+
+}  // namespace
+
+WineRegistryFile WineRegistryFile::Load(const std::string& path, std::error_code& error) {
+    WineRegistryFile file;
+    file.text_ = ReadWhole(path, error);
+    if (HasHeader(file.text_))
+        file.Index();
+    return file;
+}
+
+void WineRegistryFile::Index() {
+    entries_.reserve(CountKeyLines(text_));
+    std::vector<std::size_t> linked;
+    bool inKey = false;
+    for (std::size_t start = 0; start < text_.size();) {
+        const std::size_t end = std::min(text_.find('\n', start), text_.size());
+        const std::string_view line(text_.data() + start, end - start);
+        if (line.starts_with('[')) {
+            inKey = AddKey(start, end);
+        } else if (inKey) {
+            entries_.back().linesEnd = static_cast<std::uint32_t>(std::min(end + 1, text_.size()));
+            if (line.starts_with("#link"))
+                linked.push_back(entries_.size() - 1);
+        } else if (line.starts_with("#arch=win32")) {
+            isWin32_ = true;
+        }
+        start = end + 1;
+    }
+    for (const std::size_t index : linked)
+        AddLink(entries_[index]);
+    const auto comesBefore = [this](const Entry& left, const Entry& right) {
+        return CompareNames(PathOf(left), PathOf(right)) < 0;
+    };
+    // Wine keeps its files sorted, others may have touched this one.
+    if (!std::is_sorted(entries_.begin(), entries_.end(), comesBefore))
+        std::stable_sort(entries_.begin(), entries_.end(), comesBefore);
+}
+
+/// Adds the key of the line from `start` to `end`.
+/// @return false when the line is malformed; the lines after it belong to no key then.
+bool WineRegistryFile::AddKey(std::size_t start, std::size_t end) {
+    std::string_view rest(text_.data() + start + 1, end - start - 1);
+    const std::string path = Unescape(rest, ']');
+    if (rest.empty())
+        return false;
+    // What the escapes stand for is never longer, so the path has room where it was.
+    std::copy(path.begin(), path.end(), text_.begin() + static_cast<std::ptrdiff_t>(start));
+    const auto lines = static_cast<std::uint32_t>(std::min(end + 1, text_.size()));
+    entries_.push_back({.path = static_cast<std::uint32_t>(start),
+                        .pathLength = static_cast<std::uint32_t>(path.size()),
+                        .lines = lines,
+                        .linesEnd = lines});
+    return true;
+}
+
+void WineRegistryFile::AddLink(const Entry& entry) {
+    const auto value = FindValue(LinesOf(entry), "SymbolicLinkValue");
+    std::string target = value ? Utf8FromUtf16(value->data) : "";
+    if (target.starts_with('\\'))
+        links_.push_back({std::string(PathOf(entry)), std::move(target)});
+}
+
+std::optional<WineRegistryFile::Node> WineRegistryFile::Find(std::string_view path) const {
+    const auto first = std::lower_bound(entries_.begin(), entries_.end(), path,
+                                        [this](const Entry& entry, std::string_view wanted) {
+                                            return CompareNames(PathOf(entry), wanted) < 0;
+                                        });
+    const std::size_t depth = Depth(path);
+    const auto last = std::partition_point(first, entries_.end(), [&](const Entry& entry) {
+        return CompareNames(Head(PathOf(entry), depth), path) == 0;
+    });
+    if (first == last)
+        return std::nullopt;
+    return Node{.first = static_cast<std::size_t>(first - entries_.begin()),
+                .last = static_cast<std::size_t>(last - entries_.begin()),
+                .depth = depth};
+}
+
+std::vector<std::string_view> WineRegistryFile::Subkeys(const Node& node) const {
+    std::vector<std::string_view> names;
+    for (std::size_t i = node.first; i < node.last; ++i) {
+        const std::string_view name = Step(PathOf(entries_[i]), node.depth);
+        if (!name.empty() && (names.empty() || CompareNames(names.back(), name) != 0))
+            names.push_back(name);
+    }
+    return names;
+}
+
+std::optional<WineValue> WineRegistryFile::Value(const Node& node, std::string_view name) const {
+    std::optional<WineValue> found;
+    for (std::size_t i = node.first; i < node.last; ++i) {
+        if (Depth(PathOf(entries_[i])) > node.depth)
+            break;
+        if (auto value = FindValue(LinesOf(entries_[i]), name))
+            found = std::move(value);  // a key that the file has twice
+    }
+    return found;
+}
+
+bool WineRegistryFile::IsBare(const Node& node) const {
+    return std::none_of(entries_.begin() + static_cast<std::ptrdiff_t>(node.first),
+                        entries_.begin() + static_cast<std::ptrdiff_t>(node.last),
+                        [&](const Entry& entry) {
+                            return Depth(PathOf(entry)) > node.depth || HasValues(LinesOf(entry));
+                        });
+}
+
+std::string_view WineRegistryFile::PathOf(const Entry& entry) const {
+    return std::string_view(text_).substr(entry.path, entry.pathLength);
+}
+
+std::string_view WineRegistryFile::LinesOf(const Entry& entry) const {
+    return std::string_view(text_).substr(entry.lines, entry.linesEnd - entry.lines);
+}
+
+}  // namespace marlo::platform
