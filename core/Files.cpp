@@ -4,13 +4,12 @@
 
 #include "core/ErrorLog.h"
 #include "core/RunTimeError.h"
+#include "platform/File.h"
 #include "platform/FileSystem.h"
 
 namespace marlo {
 
 namespace {
-
-constexpr std::size_t kWriteSize = std::size_t{256} * 1024;
 
 MessageAnswer AskToClose(MainWindow& window, const std::string& path) {
     return window.ShowMessage({.text = "The file " + path + " is being used by another program." +
@@ -70,9 +69,7 @@ StagedFile::StagedFile(const Application& application, MainWindow& window,
                        std::string_view relativePath)
     : window_(window),
       path_(ApplicationPath(application, relativePath)),
-      stagingPath_(path_ + ".new") {
-    buffer_.reserve(kWriteSize);
-}
+      stagingPath_(path_ + ".new") {}
 
 StagedFile::~StagedFile() {
     std::error_code ignored;
@@ -96,7 +93,7 @@ bool StagedFile::Try(const Attempt& attempt) {
 
 bool StagedFile::Create() {
     isStaged_ = Try([&](std::error_code& error) {
-        file_ = platform::File::OpenExclusively(stagingPath_, error);
+        writer_ = LineWriter(platform::File::OpenExclusively(stagingPath_, error));
         if (!IsDenied(error))
             ThrowOnPath(error);
     });
@@ -104,23 +101,11 @@ bool StagedFile::Create() {
 }
 
 void StagedFile::WriteLine(std::string_view text) {
-    buffer_.append(text).append("\r\n");
-    if (buffer_.size() >= kWriteSize)
-        WriteOut();
-}
-
-void StagedFile::WriteOut() {
-    std::error_code error;
-    file_.Write(buffer_, error);
-    ThrowOn(error);
-    buffer_.clear();
+    writer_.WriteLine(text);
 }
 
 bool StagedFile::MoveIntoPlace() {
-    WriteOut();
-    std::error_code error;
-    file_.Flush(error);
-    ThrowOn(error);
+    writer_.FlushToDisk();
     const bool moved = Try(
         [&](std::error_code& failure) { platform::MoveIntoPlace(stagingPath_, path_, failure); });
     isStaged_ = !moved;

@@ -6,8 +6,8 @@
 #include <system_error>
 
 #include "core/Application.h"
+#include "core/LineWriter.h"
 #include "core/MainWindow.h"
-#include "platform/File.h"
 
 namespace marlo {
 
@@ -56,14 +56,12 @@ class StagedFile {
     bool MoveIntoPlace();
 
   private:
-    void WriteOut();
     bool Try(const std::function<void(std::error_code& error)>& attempt);
 
     MainWindow& window_;
     std::string path_;
     std::string stagingPath_;
-    platform::File file_;
-    std::string buffer_;
+    LineWriter writer_;
     bool isStaged_ = false;  ///< there is a new version that is not in place
 };
 

@@ -1,5 +1,6 @@
 #include "core/Settings.h"
 
+#include <array>
 #include <system_error>
 
 #include "core/ErrorLog.h"
@@ -11,7 +12,7 @@ namespace marlo {
 
 namespace {
 
-constexpr std::size_t kRecordLength = 256;
+constexpr std::size_t kRecordLength = kMaxSettingLength;
 
 std::string SettingsPath(const Application& application) {
     return ApplicationPath(application, "\\settings.ini");
@@ -71,6 +72,13 @@ std::string getSetting(const Application& application, std::int16_t record) {
 bool WriteSetting(const Application& application, std::int16_t record, std::string_view value) {
     return RunGuarded(application, "WriteSetting",
                       [&] { WriteRecord(application, record, value); });
+}
+
+std::string SettingDate(const std::tm& moment) {
+    std::array<char, sizeof "mm-dd-yyyy hh:mm:ss"> text{};
+    const std::size_t length =
+        std::strftime(text.data(), text.size(), "%m-%d-%Y %H:%M:%S", &moment);
+    return {text.data(), length};
 }
 
 }  // namespace marlo

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <ctime>
 #include <string>
 #include <string_view>
 
@@ -12,8 +14,16 @@ namespace marlo {
 namespace setting {
 inline constexpr std::int16_t kLastFolder = 1;         ///< the last folder that was searched
 inline constexpr std::int16_t kIncludeSubfolders = 3;  ///< "1" or "0"
-inline constexpr std::int16_t kLastSearch = 11;        ///< "mm-dd-yyyy hh:mm:ss"
+inline constexpr std::int16_t kCsvProgram = 4;         ///< path of the program for CSV files
+inline constexpr std::int16_t kLastSearch = 11;        ///< see `SettingDate`
+inline constexpr std::int16_t kLastInventory = 15;     ///< see `SettingDate`
+inline constexpr std::int16_t kIgnoreDirectX = 20;     ///< "1" or "0"
+inline constexpr std::int16_t kIgnoreOff = 21;         ///< "1" or "0"
+inline constexpr std::int16_t kFirstVstFolder = 50;  ///< a folder a record, to the first empty one
 }  // namespace setting
+
+/// A longer value is cut to this many bytes.
+inline constexpr std::size_t kMaxSettingLength = 256;
 
 /// Reads a value from settings.ini, which lies in the application folder and is made when it is
 /// missing.
@@ -28,8 +38,11 @@ std::string getSetting(const Application& application, std::int16_t record);
 /// Writes a value to its record in settings.ini, in place.
 ///
 /// @param record the record's number, 1-based.
-/// @param value cut to 256 bytes when it is longer.
+/// @param value cut to `kMaxSettingLength` bytes when it is longer.
 /// @return false after a failure, which is logged under "WriteSetting".
 bool WriteSetting(const Application& application, std::int16_t record, std::string_view value);
+
+/// A date and time in the fixed form of the settings, "mm-dd-yyyy hh:mm:ss", 24 hours.
+std::string SettingDate(const std::tm& moment);
 
 }  // namespace marlo

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <optional>
+#include <utility>
 
 #include "platform/AnsiCodePage.h"
 
@@ -27,6 +28,11 @@ std::optional<Utf8Form> FormOf(unsigned char lead) {
     if ((lead & 0xF8U) == 0xF0)
         return Utf8Form{4, lead & 0x07U, 0x10000};
     return std::nullopt;
+}
+
+bool IsAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 bool IsScalarValue(char32_t code) {
@@ -136,6 +142,26 @@ std::u32string UpperCase(std::u32string text) {
 
 bool EqualIgnoringCase(std::string_view left, std::string_view right) {
     return UpperCase(Decode(left)) == UpperCase(Decode(right));
+}
+
+std::string NameFromUnicode(std::string_view name) {
+    if (IsAscii(name))
+        return std::string(name);
+    const auto characters = DecodeUtf8(name);
+    auto encoded = characters ? platform::EncodeAnsi(*characters) : std::nullopt;
+    return encoded ? std::move(*encoded) : std::string(name);
+}
+
+void SortIgnoringCase(std::vector<std::string>& names) {
+    std::vector<std::pair<std::u32string, std::string>> keyed;
+    keyed.reserve(names.size());
+    for (std::string& name : names) {
+        std::u32string key = UpperCase(Decode(name));
+        keyed.emplace_back(std::move(key), std::move(name));
+    }
+    std::sort(keyed.begin(), keyed.end());
+    for (std::size_t i = 0; i < names.size(); ++i)
+        names[i] = std::move(keyed[i].second);
 }
 
 std::string_view TrimSpaces(std::string_view text) {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace marlo {
 
@@ -28,6 +29,13 @@ std::u32string UpperCase(std::u32string text);
 
 /// Whether two fields are the same text but for the case of their characters.
 bool EqualIgnoringCase(std::string_view left, std::string_view right);
+
+/// A name that comes from Unicode (UTF-8), a file's for example, as the program writes names: in
+/// the ANSI code page when every character is in it, else as it is. Bytes that are not UTF-8 stay.
+std::string NameFromUnicode(std::string_view name);
+
+/// Sorts names by their characters without regard to case.
+void SortIgnoringCase(std::vector<std::string>& names);
 
 /// `text` without the spaces at both ends. Other white space stays.
 std::string_view TrimSpaces(std::string_view text);

@@ -1,13 +1,10 @@
 #include "scan/ProjectDiscovery.h"
 
-#include <algorithm>
-#include <optional>
-#include <set>
-#include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
 
+#include "core/FolderWalk.h"
 #include "core/RunTimeError.h"
 #include "core/Text.h"
 #include "platform/FileSystem.h"
@@ -15,18 +12,6 @@
 namespace marlo {
 
 namespace {
-
-void SortIgnoringCase(std::vector<std::string>& names) {
-    std::vector<std::pair<std::u32string, std::string>> keyed;
-    keyed.reserve(names.size());
-    for (std::string& name : names) {
-        std::u32string key = UpperCase(Decode(name));
-        keyed.emplace_back(std::move(key), std::move(name));
-    }
-    std::sort(keyed.begin(), keyed.end());
-    for (std::size_t i = 0; i < names.size(); ++i)
-        names[i] = std::move(keyed[i].second);
-}
 
 class ProjectWalk {
   public:
@@ -47,25 +32,12 @@ class ProjectWalk {
 
   private:
     void Visit(const std::string& path, platform::Folder folder) {
-        auto entries = EntriesOfNew(std::move(folder));
+        auto entries = visited_.ReadOnce(std::move(folder));
         if (!entries)
             return;
         VisitFiles(path, std::move(entries->files));
         if (includeSubfolders_)
             VisitSubfolders(path, std::move(entries->folders));
-    }
-
-    /// Reads and closes a folder; a deep tree would otherwise keep one open a level.
-    /// @return nothing for a folder that was visited before.
-    std::optional<platform::FolderEntries> EntriesOfNew(platform::Folder folder) {
-        std::error_code error;
-        const bool isNew = visited_.insert(folder.Identity(error)).second;
-        ThrowOn(error);
-        if (!isNew)
-            return std::nullopt;
-        auto entries = folder.Entries(error);
-        ThrowOn(error);
-        return entries;
     }
 
     void VisitFiles(const std::string& folder, std::vector<std::string> names) {
@@ -109,7 +81,7 @@ class ProjectWalk {
     SearchLists& lists_;
     bool includeSubfolders_;
     std::int32_t& projectCount_;
-    std::set<platform::FileIdentity> visited_;
+    VisitedFolders visited_;
 };
 
 }  // namespace

@@ -1,9 +1,7 @@
 #include "scan/SearchRun.h"
 
-#include <array>
 #include <cmath>
 #include <cstdint>
-#include <ctime>
 #include <optional>
 #include <string>
 
@@ -79,14 +77,6 @@ void ScanProjects(const Application& application, MainWindow& window, SearchList
         if (!GetPlugins4Project(application, lists, path))
             ++summary.failedProjects;
     }
-}
-
-/// The date and time in the fixed form of the settings, "11-15-2026 03:10:22".
-std::string SettingDate(const std::tm& moment) {
-    std::array<char, sizeof "mm-dd-yyyy hh:mm:ss"> text{};
-    const std::size_t length =
-        std::strftime(text.data(), text.size(), "%m-%d-%Y %H:%M:%S", &moment);
-    return {text.data(), length};
 }
 
 void WriteResults(const Application& application, MainWindow& window, SearchLists& lists,

@@ -107,5 +107,9 @@ TEST_F(SettingsTest, AMissingApplicationFolderGivesEmptyTextAndFalse) {
     EXPECT_FALSE(folder.Exists("gone"));
 }
 
+TEST_F(SettingsTest, DatesHaveAFixedForm) {
+    EXPECT_EQ(SettingDate(clock.Now()), "11-15-2026 03:10:22");
+}
+
 }  // namespace
 }  // namespace marlo

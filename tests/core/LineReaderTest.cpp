@@ -1,0 +1,63 @@
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "core/LineReader.h"
+#include "core/RunTimeError.h"
+#include "tests/support/TempFolder.h"
+
+namespace marlo {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class LineReaderTest : public testing::Test {
+  protected:
+    Lines Read(const std::string& bytes) const {
+        LineReader reader(folder.Write("file", bytes));
+        Lines lines;
+        for (std::string line; reader.Next(line);)
+            lines.push_back(line);
+        return lines;
+    }
+
+    ErrorNumber FailureOf(const std::string& path) const {
+        try {
+            LineReader reader(path);
+        } catch (const RunTimeError& failure) {
+            return failure.Number();
+        }
+        return ErrorNumber::None;
+    }
+
+    test::TempFolder folder;
+};
+
+TEST_F(LineReaderTest, LinesEndWithCrLfOrLf) {
+    EXPECT_EQ(Read("a\r\nb\nc\r\n"), (Lines{"a", "b", "c"}));
+}
+
+TEST_F(LineReaderTest, TheLastLineNeedsNoEnd) {
+    EXPECT_EQ(Read("a\r\nb"), (Lines{"a", "b"}));
+    EXPECT_EQ(Read("a\r"), (Lines{"a\r"}));
+}
+
+TEST_F(LineReaderTest, EmptyLinesCountAndAnEmptyFileHasNone) {
+    EXPECT_EQ(Read("\r\n\n"), (Lines{"", ""}));
+    EXPECT_EQ(Read(""), Lines{});
+}
+
+TEST_F(LineReaderTest, LinesMayBeLongerThanWhatIsReadAtOnce) {
+    const std::string a(200'000, 'a');
+    const std::string b(65'535, 'b');
+    EXPECT_EQ(Read(a + "\r\n" + b + "\r\nc\r\n" + a), (Lines{a, b, "c", a}));
+}
+
+TEST_F(LineReaderTest, AMissingFileOrAFolderIsAFailure) {
+    EXPECT_EQ(FailureOf(folder.Path("gone")), ErrorNumber::FileNotFound);
+    EXPECT_EQ(FailureOf(folder.Path()), ErrorNumber::PathFileAccess);
+}
+
+}  // namespace
+}  // namespace marlo
