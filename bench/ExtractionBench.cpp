@@ -26,7 +26,8 @@ constexpr int kRepetitions = 9;
 using benchmark::State;
 
 Application BenchApplication() {
-    return {DataFolder(), platform::SystemClock(), platform::SystemDesktop(), {}};
+    return {DataFolder(), platform::SystemClock(), platform::SystemDesktop(),
+            platform::SystemRegistry(), {}};
 }
 
 /// Aligned, as reading into a buffer that is not takes some 40 % longer.

@@ -7,6 +7,7 @@
 
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
+#include "platform/Registry.h"
 
 namespace marlo {
 
@@ -23,6 +24,7 @@ struct Application {
     std::string folder;  ///< the application folder, without a separator at its end
     const platform::Clock& clock;
     const platform::Desktop& desktop;
+    platform::Registry& registry;
     /// Told of each entry that goes to the error log, if set.
     std::function<void(const ErrorEntry&)> onErrorLogged;
 };

@@ -6,6 +6,7 @@
 
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
+#include "platform/Registry.h"
 
 namespace marlo::cli {
 
@@ -17,6 +18,7 @@ struct Environment {
     std::string applicationFolder;  ///< without a separator at its end
     const platform::Clock& clock;
     const platform::Desktop& desktop;
+    platform::Registry& registry;
 };
 
 enum class OutputFormat { Table, Csv, Json };
@@ -44,8 +46,38 @@ struct SearchOptions {
 ///         failed, which is said on the standard error stream.
 int RunSearch(const Environment& environment, const SearchOptions& options);
 
-/// Flushes the standard output.
-/// @return `exitCode`, or kFailed when the output could not be written, which is said.
-int FinishOutput(int exitCode);
+struct InstalledOptions {
+    std::optional<std::string> winePrefix;  ///< nothing: the user's own
+    bool showProgress = false;              ///< also where the standard error stream is no terminal
+};
+
+/// Writes the list of installed plug-ins anew and prints how many of each type there are.
+/// @return kCancelled after an interrupt, kFailed when anything failed, which is said on the
+///         standard error stream.
+int RunInstalled(const Environment& environment, const InstalledOptions& options);
+
+/// Prints the VST plug-in folders, one a line; those that are not there now are said on the
+/// standard error stream too.
+int RunFoldersList(const Environment& environment);
+
+/// Adds a VST plug-in folder behind the others.
+/// @return kFailed when there is no such folder, or it is in the list already.
+int RunFoldersAdd(const Environment& environment, const std::string& folder);
+
+/// Takes a VST plug-in folder off the list.
+/// @return kFailed when it is not in the list.
+int RunFoldersRemove(const Environment& environment, const std::string& folder);
+
+struct OptionsOptions {
+    std::optional<std::string> csvProgram;
+    std::optional<bool> ignoreDirectX;
+    std::optional<bool> ignoreOff;
+};
+
+/// Sets the options that are given, and prints all of them as they are then.
+int RunOptions(const Environment& environment, const OptionsOptions& options);
+
+/// Prints when the last runs were and what was searched.
+int RunLog(const Environment& environment);
 
 }  // namespace marlo::cli

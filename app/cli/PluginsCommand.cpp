@@ -6,6 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "app/cli/CommandSupport.h"
 #include "app/cli/Commands.h"
 #include "app/cli/Table.h"
 #include "app/cli/TerminalText.h"
@@ -102,9 +103,7 @@ void Print(const std::vector<Line>& lines, OutputFormat format) {
 
 int RunPlugins(const Environment& environment, const PluginsOptions& options) {
     TerminalWindow window(ProgressStyle::None);
-    const Application application{environment.applicationFolder, environment.clock,
-                                  environment.desktop,
-                                  [&](const ErrorEntry& entry) { window.ShowLogEntry(entry); }};
+    const Application application = ApplicationOf(environment, window);
     SearchLists lists;
     bool allScansOk = true;
     std::vector<ScannedFile> scanned;

@@ -92,6 +92,9 @@ std::string TerminalWindow::PickFolder(const std::string& /*prompt*/,
 }
 
 void TerminalWindow::ShowLogEntry(const ErrorEntry& entry) {
+    // An entry may only tell that something was not found.
+    if (entry.number == 0 && entry.description.empty())
+        return;
     sawFailure_ = true;
     Say(Shortened(entry.procedure) + ": " + entry.description + " (error " +
         std::to_string(entry.number) + ")");

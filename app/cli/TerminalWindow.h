@@ -36,7 +36,7 @@ class TerminalWindow final : public MainWindow {
     MessageAnswer ShowMessage(const Message& message) override;
     std::string PickFolder(const std::string& prompt, const std::string& startFolder) override;
 
-    /// Says what went to the error log.
+    /// Says what went to the error log, if it is a failure.
     void ShowLogEntry(const ErrorEntry& entry);
 
     /// Whether a message or a log entry told of a failure.

@@ -2,6 +2,7 @@
 #include <functional>
 #include <iostream>
 #include <map>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <system_error>
@@ -10,6 +11,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "app/cli/CommandSupport.h"
 #include "app/cli/Commands.h"
 #include "app/cli/TerminalText.h"
 #include "platform/FileSystem.h"
@@ -17,16 +19,10 @@
 
 namespace marlo::cli {
 
-int FinishOutput(int exitCode) {
-    std::cout.flush();
-    if (std::cout)
-        return exitCode;
-    std::cerr << "marlo-cli: the output cannot be written\n";
-    return kFailed;
-}
-
 namespace {
 
+constexpr const char* kProgressHelp =
+    "Show the progress also when the standard error stream is no terminal";
 constexpr const char* kVersion = "marlo-cli " MARLO_VERSION;
 
 /// The command line: the program's commands and options, and what they were set to.
@@ -46,6 +42,10 @@ class CommandLine {
             "2 wrong usage, 130 cancelled.");
         AddPlugins();
         AddSearch();
+        AddInstalled();
+        AddFolders();
+        AddOptions();
+        AddCommand(app_, "log", "Print when the last runs were, and what was searched", RunLog);
     }
 
     /// @param arguments without the program's name.
@@ -67,15 +67,20 @@ class CommandLine {
                       << " does not exist\n";
             return kFailed;
         }
-        return command_({folder, platform::SystemClock(), platform::SystemDesktop()});
+        return command_({folder, platform::SystemClock(), platform::SystemDesktop(),
+                         platform::SystemRegistry()});
     }
 
   private:
-    CLI::App* AddCommand(const std::string& name, const std::string& description,
+    CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
                          std::function<int(const Environment&)> command) {
-        auto* const added = app_.add_subcommand(name, description);
+        auto* const added = parent.add_subcommand(name, description);
         added->set_version_flag("--version", kVersion);
-        added->callback([this, command = std::move(command)] { command_ = command; });
+        // A command is called back after its own subcommand was.
+        added->callback([this, added, command = std::move(command)] {
+            if (added->get_subcommands().empty())
+                command_ = command;
+        });
         return added;
     }
 
@@ -93,7 +98,7 @@ class CommandLine {
 
     void AddPlugins() {
         auto* const command = AddCommand(
-            "plugins", "Print the plug-ins that project files use",
+            app_, "plugins", "Print the plug-ins that project files use",
             [this](const Environment& environment) { return RunPlugins(environment, plugins_); });
         command->add_option("FILE", plugins_.files, "The project files")->required()->type_name("");
         command->add_flag("--merged", plugins_.merged,
@@ -104,7 +109,7 @@ class CommandLine {
 
     void AddSearch() {
         auto* const command = AddCommand(
-            "search", "Search a folder of projects and write the result files",
+            app_, "search", "Search a folder of projects and write the result files",
             [this](const Environment& environment) { return RunSearch(environment, search_); });
         command
             ->add_option_function<std::string>(
@@ -114,8 +119,65 @@ class CommandLine {
         command->add_flag_callback(
             "--no-subfolders", [this] { search_.includeSubfolders = false; },
             "Leave the folders inside FOLDER out");
-        command->add_flag("--progress", search_.showProgress,
-                          "Show the progress also when the standard error stream is no terminal");
+        command->add_flag("--progress", search_.showProgress, kProgressHelp);
+    }
+
+    void AddInstalled() {
+        auto* const command = AddCommand(
+            app_, "installed", "Take the inventory of the plug-ins that are installed here",
+            [this](const Environment& environment) {
+                return RunInstalled(environment, installed_);
+            });
+        command
+            ->add_option_function<std::string>(
+                "--wine-prefix",
+                [this](const std::string& folder) { installed_.winePrefix = folder; },
+                "The Wine prefix whose DirectX plug-ins are listed (default: WINEPREFIX, else "
+                "~/.wine)")
+            ->type_name("DIR");
+        command->add_flag("--progress", installed_.showProgress, kProgressHelp);
+    }
+
+    void AddFolders() {
+        auto* const command = AddCommand(
+            app_, "folders", "Print or change the list of VST plug-in folders", RunFoldersList);
+        AddCommand(*command, "list", "Print the folders (the default)", RunFoldersList);
+        const auto addChange = [&](const std::string& name, const std::string& description,
+                                   int (*change)(const Environment&, const std::string&)) {
+            AddCommand(*command, name, description,
+                       [this, change](const Environment& environment) {
+                           return change(environment, vstFolder_);
+                       })
+                ->add_option("DIR", vstFolder_, "The folder")
+                ->required()
+                ->type_name("");
+        };
+        addChange("add", "Add a folder at the end of the list", RunFoldersAdd);
+        addChange("remove", "Take a folder off the list", RunFoldersRemove);
+    }
+
+    static void AddSwitch(CLI::App* command, const std::string& name, std::optional<bool>& value,
+                          const std::string& description) {
+        command
+            ->add_option_function<std::string>(
+                name, [&value](const std::string& text) { value = text == "on"; }, description)
+            ->check(CLI::IsMember({"on", "off"}).description(""))
+            ->type_name("on|off");
+    }
+
+    void AddOptions() {
+        auto* const command = AddCommand(
+            app_, "options", "Print or set the options of the program",
+            [this](const Environment& environment) { return RunOptions(environment, options_); });
+        command
+            ->add_option_function<std::string>(
+                "--csv-program", [this](const std::string& path) { options_.csvProgram = path; },
+                "The program that opens the CSV result files")
+            ->type_name("PATH");
+        AddSwitch(command, "--ignore-directx", options_.ignoreDirectX,
+                  "Leave DirectX plug-ins out of the reports");
+        AddSwitch(command, "--ignore-off", options_.ignoreOff,
+                  "Leave plug-ins that are off out of the reports");
     }
 
     int Report(const CLI::ParseError& ending) {
@@ -131,10 +193,14 @@ class CommandLine {
         return kWrongUsage;
     }
 
-    CLI::App app_{"Which plug-ins do your Cubase SX projects use?", "marlo-cli"};
+    CLI::App app_{"Which plug-ins do your Cubase SX projects use, and which are installed here?",
+                  "marlo-cli"};
     std::string applicationFolder_ = platform::ProgramFolder();
     PluginsOptions plugins_;
     SearchOptions search_;
+    InstalledOptions installed_;
+    std::string vstFolder_;
+    OptionsOptions options_;
     std::function<int(const Environment&)> command_;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,11 @@ class CliTest : public testing::Test {
     CliTest() {
         folder.MakeFolder("app/resultfiles");
         folder.MakeFolder("songs");
+        // A machine without Wine or associations, until a test makes some.
+        setenv("WINEPREFIX", folder.Path("prefix").c_str(), 1);
+        for (const char* variable : {"XDG_DATA_HOME", "XDG_DATA_DIRS", "XDG_CONFIG_HOME"})
+            setenv(variable, folder.Path("data").c_str(), 1);
+        setenv("XDG_CONFIG_DIRS", folder.Path("data").c_str(), 1);
     }
 
     /// The words that start the program with `arguments` on the test's application folder.
@@ -41,6 +47,16 @@ class CliTest : public testing::Test {
     /// Writes a project that cannot be scanned. @return its path.
     std::string AddBrokenProject(const std::string& name) const {
         return folder.Write("songs/" + name, "CcnK....FBCh" + std::string(100, '\0'));
+    }
+
+    /// A record of the settings, 1-based; empty when it was never written.
+    std::string Setting(std::size_t record) const {
+        constexpr std::size_t length = 256;
+        const std::string settings = folder.Read("app/settings.ini");
+        if (settings.size() < record * length)
+            return {};
+        const std::string value = settings.substr((record - 1) * length, length);
+        return value.front() == '\0' ? "" : value.substr(0, value.find_last_not_of(' ') + 1);
     }
 
     std::string Songs() const { return folder.Path("songs"); }

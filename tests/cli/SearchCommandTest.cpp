@@ -23,11 +23,6 @@ class SearchCommandTest : public test::CliTest {
             std::filesystem::create_hard_link(first,
                                               folder.Path("songs/" + std::to_string(i) + ".cpr"));
     }
-
-    std::string Setting(std::size_t record) const {
-        const std::string value = folder.Read("app/settings.ini").substr((record - 1) * 256, 256);
-        return value.substr(0, value.find_last_not_of(' ') + 1);
-    }
 };
 
 TEST_F(SearchCommandTest, ASearchWritesTheResultFilesAndPrintsASummary) {

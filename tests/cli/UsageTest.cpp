@@ -11,7 +11,16 @@ namespace {
 class UsageTest : public test::CliTest {};
 
 TEST_F(UsageTest, HelpAndVersionAreThereForTheProgramAndForEachCommand) {
-    const std::vector<std::vector<std::string>> commands = {{}, {"plugins"}, {"search"}};
+    const std::vector<std::vector<std::string>> commands = {{},
+                                                            {"plugins"},
+                                                            {"search"},
+                                                            {"installed"},
+                                                            {"folders"},
+                                                            {"folders", "list"},
+                                                            {"folders", "add"},
+                                                            {"folders", "remove"},
+                                                            {"options"},
+                                                            {"log"}};
     for (auto command : commands) {
         command.emplace_back("--help");
         const auto help = Marlo(command);
@@ -31,6 +40,11 @@ TEST_F(UsageTest, WrongUsageExitsWith2AndSaysWhy) {
                                                          {"frobnicate"},
                                                          {"search", "--nonsense"},
                                                          {"search", "a", "b"},
+                                                         {"installed", "x"},
+                                                         {"folders", "add"},
+                                                         {"folders", "remove"},
+                                                         {"folders", "x"},
+                                                         {"options", "--ignore-off", "maybe"},
                                                          {"plugins", "a.cpr", "--format", "xml"}};
     for (const auto& arguments : wrong) {
         const auto result = Marlo(arguments);
@@ -56,9 +70,27 @@ TEST_F(UsageTest, AMissingApplicationFolderIsSaid) {
 
 TEST_F(UsageTest, TheManualPageTellsOfEveryCommandAndOption) {
     const std::string manual = folder.Read(MARLO_SOURCE "/docs/man/marlo-cli.1");
-    for (const std::string word :
-         {"plugins", "search", "\\-\\-merged", "\\-\\-format", "\\-\\-no\\-subfolders",
-          "\\-\\-progress", "\\-\\-app\\-folder", "\\-\\-help", "\\-\\-version", "130"})
+    for (const std::string word : {"plugins",
+                                   "search",
+                                   "\\-\\-merged",
+                                   "\\-\\-format",
+                                   "\\-\\-no\\-subfolders",
+                                   "\\-\\-progress",
+                                   "installed",
+                                   "\\-\\-wine\\-prefix",
+                                   "folders",
+                                   "list",
+                                   "add",
+                                   "remove",
+                                   "options",
+                                   "\\-\\-csv\\-program",
+                                   "\\-\\-ignore\\-directx",
+                                   "\\-\\-ignore\\-off",
+                                   "log",
+                                   "\\-\\-app\\-folder",
+                                   "\\-\\-help",
+                                   "\\-\\-version",
+                                   "130"})
         EXPECT_NE(manual.find(word), std::string::npos) << word;
 }
 

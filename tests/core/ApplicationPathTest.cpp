@@ -41,7 +41,7 @@ TEST_F(ApplicationPathTest, AMissingResultFolderGoesByItsUsualNameAndIsNotMade) 
 }
 
 TEST_F(ApplicationPathTest, AnApplicationInTheRootFolderGetsOneSeparator) {
-    const Application root{"/", clock, desktop, {}};
+    const Application root{"/", clock, desktop, registry, {}};
     EXPECT_EQ(ApplicationPath(root, "\\settings.ini"), "/settings.ini");
 }
 

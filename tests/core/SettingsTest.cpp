@@ -101,7 +101,7 @@ TEST_F(SettingsTest, AFileThatMayNotBeWrittenCanStillBeRead) {
 }
 
 TEST_F(SettingsTest, AMissingApplicationFolderGivesEmptyTextAndFalse) {
-    const Application lost{folder.Path("gone"), clock, desktop, {}};
+    const Application lost{folder.Path("gone"), clock, desktop, registry, {}};
     EXPECT_EQ(getSetting(lost, 1), "");
     EXPECT_FALSE(WriteSetting(lost, 1, "x"));
     EXPECT_FALSE(folder.Exists("gone"));

@@ -7,6 +7,7 @@
 
 #include "core/Application.h"
 #include "tests/support/Fakes.h"
+#include "tests/support/MemoryRegistry.h"
 #include "tests/support/TempFolder.h"
 
 namespace marlo::test {
@@ -33,7 +34,8 @@ class ApplicationTest : public testing::Test {
     FakeClock clock;
     FakeDesktop desktop;
     RecordingWindow window;
-    Application application{folder.Path(), clock, desktop, {}};
+    MemoryRegistry registry;
+    Application application{folder.Path(), clock, desktop, registry, {}};
 };
 
 }  // namespace marlo::test

@@ -1,0 +1,43 @@
+#include "app/cli/CommandSupport.h"
+
+#include <iostream>
+
+#include "app/cli/TerminalText.h"
+#include "platform/Terminal.h"
+
+namespace marlo::cli {
+
+Application ApplicationOf(const Environment& environment, TerminalWindow& window) {
+    return {environment.applicationFolder, environment.clock, environment.desktop,
+            environment.registry,
+            [&window](const ErrorEntry& entry) { window.ShowLogEntry(entry); }};
+}
+
+ProgressStyle ProgressStyleFor(bool wantedAnyway) {
+    if (platform::IsTerminal(platform::Stream::Error))
+        return ProgressStyle::Redrawn;
+    return wantedAnyway ? ProgressStyle::Lines : ProgressStyle::None;
+}
+
+int Complain(const std::string& command, int exitCode, const std::string& text) {
+    std::cerr << "marlo-cli: " << command << ": " << Printable(text) << '\n';
+    return exitCode;
+}
+
+std::string Counted(std::size_t count, const std::string& noun) {
+    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+void PrintField(const std::string& field) {
+    std::cout << (platform::IsTerminal(platform::Stream::Out) ? Printable(field) : field) << '\n';
+}
+
+int FinishOutput(int exitCode) {
+    std::cout.flush();
+    if (std::cout)
+        return exitCode;
+    std::cerr << "marlo-cli: the output cannot be written\n";
+    return kFailed;
+}
+
+}  // namespace marlo::cli

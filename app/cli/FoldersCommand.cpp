@@ -1,0 +1,84 @@
+#include <algorithm>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "app/cli/CommandSupport.h"
+#include "app/cli/Commands.h"
+#include "app/cli/TerminalWindow.h"
+#include "core/Settings.h"
+#include "core/Text.h"
+#include "inventory/VstFolders.h"
+#include "platform/FileSystem.h"
+
+namespace marlo::cli {
+
+namespace {
+
+constexpr const char* kCommand = "folders";
+
+/// The folders as a start of the program finds them.
+std::vector<std::string> Folders(const Application& application) {
+    FillInVstFolder(application);
+    return ReadVstFolders(application);
+}
+
+int Write(const Application& application, const TerminalWindow& window,
+          const std::vector<std::string>& folders) {
+    const bool written = WriteVstFolders(application, folders);
+    return written && !window.SawFailure() ? kDone : kFailed;
+}
+
+/// Whether a setting gives a path back as it was.
+bool CanBeKept(const std::string& path) {
+    return path.size() <= kMaxSettingLength && TrimSpaces(path) == path;
+}
+
+}  // namespace
+
+int RunFoldersList(const Environment& environment) {
+    TerminalWindow window(ProgressStyle::None);
+    const Application application = ApplicationOf(environment, window);
+    for (const std::string& folder : Folders(application)) {
+        PrintField(folder);
+        std::error_code error;
+        if (!platform::IsFolder(folder, error))
+            Complain(kCommand, kDone, folder + ": no such folder now");
+    }
+    return FinishOutput(window.SawFailure() ? kFailed : kDone);
+}
+
+int RunFoldersAdd(const Environment& environment, const std::string& folder) {
+    TerminalWindow window(ProgressStyle::None);
+    const Application application = ApplicationOf(environment, window);
+    std::error_code error;
+    const std::string path = platform::FullPath(folder, error);
+    if (error || !platform::IsFolder(path, error))
+        return Complain(kCommand, kFailed, folder + ": no such folder");
+    if (!CanBeKept(path))
+        return Complain(kCommand, kFailed,
+                        path + ": a path with a space at its end or of more than " +
+                            std::to_string(kMaxSettingLength) + " bytes cannot be kept");
+    auto folders = Folders(application);
+    if (std::find(folders.begin(), folders.end(), path) != folders.end())
+        return Complain(kCommand, kFailed, "Path is already in the list");
+    folders.push_back(path);
+    return Write(application, window, folders);
+}
+
+int RunFoldersRemove(const Environment& environment, const std::string& folder) {
+    TerminalWindow window(ProgressStyle::None);
+    const Application application = ApplicationOf(environment, window);
+    auto folders = Folders(application);
+    auto found = std::find(folders.begin(), folders.end(), folder);
+    if (found == folders.end()) {
+        std::error_code error;
+        found = std::find(folders.begin(), folders.end(), platform::FullPath(folder, error));
+    }
+    if (found == folders.end())
+        return Complain(kCommand, kFailed, folder + ": not in the list");
+    folders.erase(found);
+    return Write(application, window, folders);
+}
+
+}  // namespace marlo::cli

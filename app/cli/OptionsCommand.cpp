@@ -1,0 +1,59 @@
+#include <iostream>
+#include <string>
+#include <system_error>
+
+#include "app/cli/CommandSupport.h"
+#include "app/cli/Commands.h"
+#include "app/cli/TerminalText.h"
+#include "app/cli/TerminalWindow.h"
+#include "core/Settings.h"
+#include "inventory/FileAssociation.h"
+#include "platform/FileSystem.h"
+
+namespace marlo::cli {
+
+namespace {
+
+constexpr const char* kCommand = "options";
+
+const char* OnOrOff(const Application& application, std::int16_t record) {
+    return getSetting(application, record) == "1" ? "on" : "off";
+}
+
+void WriteFlag(const Application& application, std::int16_t record,
+               const std::optional<bool>& value) {
+    if (value)
+        WriteSetting(application, record, *value ? "1" : "0");
+}
+
+void PrintOptions(const Application& application) {
+    const std::string program = getSetting(application, setting::kCsvProgram);
+    std::cout << "csv-program:    " << (program.empty() ? "(none)" : Printable(program)) << '\n'
+              << "ignore-directx: " << OnOrOff(application, setting::kIgnoreDirectX) << '\n'
+              << "ignore-off:     " << OnOrOff(application, setting::kIgnoreOff) << '\n';
+}
+
+}  // namespace
+
+int RunOptions(const Environment& environment, const OptionsOptions& options) {
+    TerminalWindow window(ProgressStyle::None);
+    const Application application = ApplicationOf(environment, window);
+    if (options.csvProgram) {
+        std::error_code error;
+        const std::string path = platform::FullPath(*options.csvProgram, error);
+        if (error || !platform::IsFile(path, error))
+            return Complain(kCommand, kFailed, *options.csvProgram + ": no such program");
+        if (path.size() > kMaxSettingLength)
+            return Complain(kCommand, kFailed,
+                            path + ": a path of more than " + std::to_string(kMaxSettingLength) +
+                                " bytes cannot be kept");
+        WriteSetting(application, setting::kCsvProgram, path);
+    }
+    WriteFlag(application, setting::kIgnoreDirectX, options.ignoreDirectX);
+    WriteFlag(application, setting::kIgnoreOff, options.ignoreOff);
+    FillInCsvProgram(application);
+    PrintOptions(application);
+    return FinishOutput(window.SawFailure() ? kFailed : kDone);
+}
+
+}  // namespace marlo::cli

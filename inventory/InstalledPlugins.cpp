@@ -1,0 +1,109 @@
+#include "inventory/InstalledPlugins.h"
+
+#include <cstdint>
+#include <limits>
+#include <system_error>
+#include <utility>
+
+#include "core/ErrorLog.h"
+#include "core/Files.h"
+#include "core/LineReader.h"
+#include "core/LineWriter.h"
+#include "core/Records.h"
+#include "core/RunTimeError.h"
+#include "core/Settings.h"
+#include "inventory/DirectXPlugins.h"
+#include "inventory/ScanVSTFolder.h"
+#include "platform/File.h"
+
+namespace marlo {
+
+namespace {
+
+LineWriter OpenOutput(const Application& application) {
+    std::error_code error;
+    auto file = platform::File::OpenForAppending(
+        ApplicationPath(application, "\\Resultfiles\\installedplugins.csv"), error);
+    ThrowOnPath(error);
+    return LineWriter(std::move(file));
+}
+
+/// Scans the folders of the settings until the user cancels.
+void ScanVSTFolders(const Application& application, MainWindow& window, LineWriter& output,
+                    InventorySummary& summary) {
+    constexpr std::int16_t lastRecord = std::numeric_limits<std::int16_t>::max();
+    for (std::int16_t record = setting::kFirstVstFolder; record < lastRecord; ++record) {
+        const std::string folder = getSetting(application, record);
+        if (folder.empty())
+            return;
+        bool cancelled = false;
+        ScanVSTFolder(application, window, folder, true, output, cancelled);
+        output.Flush();
+        if (cancelled) {
+            summary.outcome = InventoryOutcome::Cancelled;
+            window.ShowMessage({.text = "Cancelled"});
+            return;
+        }
+    }
+}
+
+void FindPlugins(const Application& application, MainWindow& window, InventorySummary& summary) {
+    MessageAnswer answer = MessageAnswer::None;
+    AskCloseFileInUse(application, window, "\\Resultfiles\\installedplugins.csv", answer);
+    if (answer == MessageAnswer::Cancel)
+        return;
+    LineWriter output = OpenOutput(application);
+    window.SetText1("Searching for installed DirectX Plugins...");
+    window.Repaint();
+    GetDirectXPlugins(application, window, output);
+    output.Flush();
+    summary.directX = output.LineCount();
+    window.SetText1("Searching for installed VST Plugins...");
+    summary.outcome = InventoryOutcome::Completed;
+    ScanVSTFolders(application, window, output, summary);
+    summary.vst = output.LineCount() - summary.directX;
+    WriteSetting(application, setting::kLastInventory, SettingDate(application.clock.Now()));
+}
+
+}  // namespace
+
+InventorySummary RefreshPlugins(const Application& application, MainWindow& window) {
+    InventorySummary summary;
+    window.SetCancelTag("");
+    window.DisableButtons();
+    const bool completed = RunGuarded(application, "RefreshPlugins",
+                                      [&] { FindPlugins(application, window, summary); });
+    if (!completed) {
+        summary.outcome = InventoryOutcome::Failed;
+        ShowUnexpectedError(window);
+    }
+    window.EnableButtons();
+    window.ClearStatusBar();
+    return summary;
+}
+
+bool InstalledPlugins::PluginIsInstalled(const std::string& name) {
+    bool isInstalled = false;
+    RunGuarded(application_, "PluginIsInstalled", [&] {
+        ReadIfChanged();
+        isInstalled = names_.contains(name);
+    });
+    return isInstalled;
+}
+
+void InstalledPlugins::ReadIfChanged() {
+    const std::string path = ApplicationPath(application_, "\\resultfiles\\installedplugins.csv");
+    std::error_code error;
+    const auto stamp = platform::StampOf(path, error);
+    if (!error && stamp_ == stamp)
+        return;
+    stamp_.reset();
+    names_.clear();
+    LineReader file(path);
+    for (std::string line; file.Next(line);)
+        names_.insert(std::move(SplitRecord(application_, line, 3).at(1)));
+    if (!error && platform::IsSettled(stamp))
+        stamp_ = stamp;
+}
+
+}  // namespace marlo

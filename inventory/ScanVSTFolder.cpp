@@ -1,0 +1,94 @@
+#include "inventory/ScanVSTFolder.h"
+
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "core/FolderWalk.h"
+#include "core/Records.h"
+#include "core/RunTimeError.h"
+#include "core/Text.h"
+#include "inventory/DirectXPlugins.h"
+#include "platform/FileSystem.h"
+
+namespace marlo {
+
+namespace {
+
+class LibraryWalk {
+  public:
+    LibraryWalk(const Application& application, MainWindow& window, bool includeSubfolders,
+                LineWriter& output)
+        : application_(application),
+          window_(window),
+          includeSubfolders_(includeSubfolders),
+          output_(output) {}
+
+    /// @return false when the user cancelled.
+    bool Visit(const std::string& path) {
+        window_.SetText2(path);
+        window_.LetEventsRun();
+        if (window_.CancelTag() == kCancelTag)
+            return false;
+        std::error_code error;
+        auto folder = platform::Folder::Open(path, error);
+        if (error)
+            return true;
+        auto entries = visited_.ReadOnce(std::move(folder));
+        if (!entries)
+            return true;
+        VisitFiles(path, std::move(entries->files));
+        return !includeSubfolders_ || VisitSubfolders(path, std::move(entries->folders));
+    }
+
+  private:
+    void VisitFiles(const std::string& folder, std::vector<std::string> names) {
+        std::vector<std::string> libraries;
+        for (std::string& name : names)
+            if (IsLibrary(platform::JoinPath(folder, name)))
+                libraries.push_back(std::move(name));
+        SortIgnoringCase(libraries);
+        for (const std::string& name : libraries)
+            Write(name, platform::JoinPath(folder, name));
+    }
+
+    bool VisitSubfolders(const std::string& folder, std::vector<std::string> names) {
+        SortIgnoringCase(names);
+        for (const std::string& name : names)
+            if (!Visit(platform::JoinPath(folder, name)))
+                return false;
+        return true;
+    }
+
+    bool IsLibrary(const std::string& path) const {
+        std::error_code error;
+        const std::string type = application_.desktop.FileTypeDescription(path, error);
+        ThrowOn(error);
+        return type == "Application Extension";
+    }
+
+    void Write(const std::string& fileName, const std::string& path) {
+        const std::size_t dot = fileName.rfind('.');
+        if (dot == std::string::npos)
+            throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+        const std::string name = NameFromUnicode(fileName.substr(0, dot));
+        if (!IsIncompatible(name + ";"))
+            output_.WriteLine(QuotedFields({"VST", name, path}));
+    }
+
+    const Application& application_;
+    MainWindow& window_;
+    bool includeSubfolders_;
+    LineWriter& output_;
+    VisitedFolders visited_;
+};
+
+}  // namespace
+
+void ScanVSTFolder(const Application& application, MainWindow& window, const std::string& folder,
+                   bool includeSubfolders, LineWriter& output, bool& cancelled) {
+    cancelled =
+        !LibraryWalk(application, window, includeSubfolders, output).Visit(folder) || cancelled;
+}
+
+}  // namespace marlo

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/Application.h"
+
+namespace marlo {
+
+/// The VST plug-in folders of the settings, record 50 and up, to the first empty one.
+std::vector<std::string> ReadVstFolders(const Application& application);
+
+/// Writes the VST plug-in folders to the settings in place of those that were there.
+/// @param folders cut to `kMaxSettingLength` bytes each.
+/// @return false when a record could not be written, which is logged under "WriteSetting".
+bool WriteVstFolders(const Application& application, const std::vector<std::string>& folders);
+
+/// Where there is no VST plug-in folder yet, takes the one that the registry names for all hosts:
+/// "software\vst" of HKEY_LOCAL_MACHINE, value "VSTPluginsPath". Nothing happens when it names
+/// none, or none that this machine has.
+void FillInVstFolder(const Application& application);
+
+}  // namespace marlo

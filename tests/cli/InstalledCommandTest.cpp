@@ -1,0 +1,246 @@
+#include <csignal>
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tests/cli/CliTest.h"
+
+namespace marlo {
+namespace {
+
+using test::Program;
+
+constexpr const char* kPrefixWithEffect =
+    "WINE REGISTRY Version 2\n"
+    ";; All keys relative to REGISTRY\\\\Machine\n\n#arch=win64\n\n"
+    "[Software\\\\Classes\\\\Wow6432Node\\\\CLSID\\\\{1}] 1\n@=\"DX Echo\"\n"
+    "\"Merit\"=dword:00200000\n\n"
+    "[Software\\\\Wow6432Node\\\\VST] 1\n\"VSTPluginsPath\"=\"C:\\\\VST\"\n";
+
+class InstalledCommandTest : public test::CliTest {
+  protected:
+    std::string List() const { return Result("installedplugins.csv"); }
+
+    /// Makes a Wine prefix with an effect, and a library in the folder that it names.
+    void MakePrefix(const std::string& name) const {
+        folder.Write(name + "/system.reg", kPrefixWithEffect);
+        folder.MakeFolder(name + "/dosdevices");
+        folder.Write(name + "/drive_c/vst/Réverb.dll", "");
+        std::filesystem::create_directory_symlink("../drive_c",
+                                                  folder.Path(name + "/dosdevices/c:"));
+    }
+
+    std::string PrefixList(const std::string& name) const {
+        return "\"DirectX\",\"DX Echo\",\"<empty>\"\r\n\"VST\",\"R\xE9verb\",\"" +
+               std::filesystem::canonical(folder.Path(name)).string() +
+               "/drive_c/vst/Réverb.dll\"\r\n";
+    }
+};
+
+TEST_F(InstalledCommandTest, TheUsersPrefixIsListedWithTheFolderThatItNames) {
+    MakePrefix("prefix");
+    const auto result = Marlo({"installed"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.out, "1 DirectX plug-in, 1 VST plug-in.\n");
+    EXPECT_EQ(result.error, "");
+    EXPECT_EQ(List(), PrefixList("prefix"));
+}
+
+TEST_F(InstalledCommandTest, AnotherPrefixMayBeNamed) {
+    MakePrefix("other");
+    const auto result = Marlo({"installed", "--wine-prefix", folder.Path("other")});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(List(), PrefixList("other"));
+}
+
+TEST_F(InstalledCommandTest, APrefixThatIsNoneIsSaidAndTheOldListStays) {
+    folder.Write("app/resultfiles/installedplugins.csv", "old");
+    const auto result = Marlo({"installed", "--wine-prefix", folder.MakeFolder("none")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.error, "marlo-cli: installed: " + folder.Path("none") +
+                                ": no Wine prefix that can be read (No such file or directory)\n");
+    EXPECT_EQ(List(), "old");
+}
+
+TEST_F(InstalledCommandTest, AUsersPrefixThatCannotBeReadIsSaidAndTheFoldersAreListed) {
+    folder.MakeFolder("prefix/system.reg");
+    folder.Write("vst/Echo.dll", "");
+    Marlo({"folders", "add", folder.Path("vst")});
+    const auto result = Marlo({"installed"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.error,
+              "marlo-cli: installed: the Wine prefix cannot be read: Is a directory\n");
+    EXPECT_EQ(result.out, "0 DirectX plug-ins, 1 VST plug-in.\n");
+}
+
+TEST_F(InstalledCommandTest, WithoutAFolderItSaysHowToAddOne) {
+    const auto result = Marlo({"installed"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.out, "0 DirectX plug-ins, 0 VST plug-ins.\n");
+    EXPECT_NE(result.error.find("marlo-cli folders add DIR"), std::string::npos);
+    EXPECT_EQ(List(), "");
+}
+
+TEST_F(InstalledCommandTest, TheProgressHasTwoPhases) {
+    folder.Write("vst/Echo.dll", "");
+    Marlo({"folders", "add", folder.Path("vst")});
+    EXPECT_EQ(Marlo({"installed", "--progress"}).error,
+              "Searching for installed DirectX Plugins...\n"
+              "Searching for installed VST Plugins... " +
+                  folder.Path("vst") + "\n");
+}
+
+TEST_F(InstalledCommandTest, TheInterruptKeyCancelsAndKeepsWhatWasFound) {
+    for (int i = 0; i < 10000; ++i)
+        std::filesystem::create_directories(folder.Path("vst/" + std::to_string(i) + "/sub"));
+    Marlo({"folders", "add", folder.Path("vst")});
+    auto program = Program::StartInTerminal(CommandLine({"installed"}));
+    program.ReadUntil("VST Plugins...");
+    program.Type("\x03");
+    const std::string said = program.ReadAll();
+    EXPECT_EQ(program.Wait(), 130);
+    EXPECT_NE(said.find("Cancelled"), std::string::npos) << said;
+    EXPECT_NE(Setting(15), "");
+}
+
+TEST_F(InstalledCommandTest, AFailureIsSaidAndTheExitCodeIs1) {
+    folder.MakeFolder("app/resultfiles/installedplugins.csv");
+    const auto result = Marlo({"installed"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.out, "");
+    EXPECT_NE(result.error.find("RefreshPlugins: Path/File access error (error 75)"),
+              std::string::npos);
+    EXPECT_NE(result.error.find("An unexpected error occurred."), std::string::npos);
+}
+
+class FoldersCommandTest : public test::CliTest {
+  protected:
+    std::string List() const {
+        const auto result = Marlo({"folders"});
+        EXPECT_EQ(result.exitCode, 0);
+        return result.out;
+    }
+};
+
+TEST_F(FoldersCommandTest, FoldersAreAddedListedAndRemoved) {
+    const std::string a = folder.MakeFolder("a");
+    const std::string b = folder.MakeFolder("b");
+    const std::string c = folder.MakeFolder("c");
+    for (const auto& path : {a, b, c})
+        EXPECT_EQ(Marlo({"folders", "add", path}).exitCode, 0);
+    EXPECT_EQ(List(), a + "\n" + b + "\n" + c + "\n");
+    EXPECT_EQ(Marlo({"folders", "list"}).out, List());
+    EXPECT_EQ(Marlo({"folders", "remove", b}).exitCode, 0);
+    EXPECT_EQ(List(), a + "\n" + c + "\n");
+    EXPECT_EQ(Setting(52), "");
+}
+
+TEST_F(FoldersCommandTest, APathIsKeptInFullAndFoundAgain) {
+    folder.MakeFolder("a");
+    EXPECT_EQ(Marlo({"folders", "add", folder.Path("a/../a/")}).exitCode, 0);
+    EXPECT_EQ(Setting(50), std::filesystem::canonical(folder.Path("a")).string());
+    EXPECT_EQ(Marlo({"folders", "remove", folder.Path("a/")}).exitCode, 0);
+    EXPECT_EQ(List(), "");
+}
+
+TEST_F(FoldersCommandTest, AFolderInTheListIsNotAddedAgain) {
+    Marlo({"folders", "add", folder.MakeFolder("a")});
+    const auto result = Marlo({"folders", "add", folder.Path("a")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.error, "marlo-cli: folders: Path is already in the list\n");
+    EXPECT_EQ(List(), folder.Path("a") + "\n");
+}
+
+TEST_F(FoldersCommandTest, WhatIsNoFolderOrCannotBeKeptIsRefused) {
+    EXPECT_EQ(Marlo({"folders", "add", folder.Path("gone")}).error,
+              "marlo-cli: folders: " + folder.Path("gone") + ": no such folder\n");
+    EXPECT_EQ(Marlo({"folders", "add", folder.Write("file", "")}).exitCode, 1);
+    EXPECT_EQ(Marlo({"folders", "add", folder.MakeFolder("space ")}).exitCode, 1);
+    EXPECT_EQ(Marlo({"folders", "add", folder.MakeFolder(std::string(250, 'x'))}).exitCode, 1);
+    EXPECT_EQ(Marlo({"folders", "remove", folder.Path("gone")}).error,
+              "marlo-cli: folders: " + folder.Path("gone") + ": not in the list\n");
+    EXPECT_EQ(List(), "");
+}
+
+TEST_F(FoldersCommandTest, AFolderThatHasGoneIsListedAndSaidAndCanBeRemoved) {
+    Marlo({"folders", "add", folder.MakeFolder("a")});
+    std::filesystem::remove(folder.Path("a"));
+    const auto result = Marlo({"folders"});
+    EXPECT_EQ(result.out, folder.Path("a") + "\n");
+    EXPECT_EQ(result.error, "marlo-cli: folders: " + folder.Path("a") + ": no such folder now\n");
+    EXPECT_EQ(Marlo({"folders", "remove", folder.Path("a")}).exitCode, 0);
+    EXPECT_EQ(List(), "");
+}
+
+TEST_F(FoldersCommandTest, SettingsThatCannotBeWrittenAreSaid) {
+    folder.MakeFolder("app/settings.ini");
+    EXPECT_EQ(Marlo({"folders", "add", folder.MakeFolder("a")}).exitCode, 1);
+    EXPECT_EQ(Marlo({"folders"}).exitCode, 1);
+}
+
+class OptionsCommandTest : public test::CliTest {};
+
+TEST_F(OptionsCommandTest, AllOptionsAreShown) {
+    const auto result = Marlo({"options"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.error, "");
+    EXPECT_EQ(result.out, "csv-program:    (none)\nignore-directx: off\nignore-off:     off\n");
+}
+
+TEST_F(OptionsCommandTest, OptionsAreSetAndStaySet) {
+    const std::string program = folder.Write("sheets", "");
+    const std::string expected =
+        "csv-program:    " + program + "\nignore-directx: on\nignore-off:     on\n";
+    EXPECT_EQ(
+        Marlo({"options", "--csv-program", program, "--ignore-directx", "on", "--ignore-off", "on"})
+            .out,
+        expected);
+    EXPECT_EQ(Marlo({"options"}).out, expected);
+    EXPECT_EQ(Setting(4), program);
+    EXPECT_EQ(Setting(20), "1");
+    EXPECT_EQ(Setting(21), "1");
+    Marlo({"options", "--ignore-off", "off"});
+    EXPECT_EQ(Setting(20), "1");
+    EXPECT_EQ(Setting(21), "0");
+}
+
+TEST_F(OptionsCommandTest, AProgramThatIsNotThereIsRefused) {
+    const auto result = Marlo({"options", "--csv-program", folder.Path("gone")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.error, "marlo-cli: options: " + folder.Path("gone") + ": no such program\n");
+    EXPECT_EQ(Marlo({"options", "--csv-program", ""}).exitCode, 1);
+}
+
+TEST_F(OptionsCommandTest, WithoutAProgramTheDesktopsOwnIsTaken) {
+    const std::string program = folder.Write("data/sheets", "#!/bin/sh\n");
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    folder.Write("data/mime/globs2", "50:text/csv:*.csv\n");
+    folder.Write("data/applications/sheets.desktop",
+                 "[Desktop Entry]\nType=Application\nName=Sheets\nExec=" + program +
+                     " %F\nMimeType=text/csv;\n");
+    folder.Write("data/mimeapps.list", "[Default Applications]\ntext/csv=sheets.desktop\n");
+    EXPECT_NE(Marlo({"options"}).out.find("csv-program:    " + program + "\n"), std::string::npos);
+    EXPECT_EQ(Setting(4), program);
+}
+
+class LogCommandTest : public test::CliTest {};
+
+TEST_F(LogCommandTest, BeforeAnyRunTheLogIsEmpty) {
+    EXPECT_EQ(Marlo({"log"}).out,
+              "Search SX Projects\n  Date:\n  Path:\nFind installed Plugins\n  Date:\n");
+}
+
+TEST_F(LogCommandTest, TheLastRunsAreTold) {
+    Marlo({"search", Songs(), "--no-subfolders"});
+    Marlo({"installed"});
+    const auto result = Marlo({"log"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.out, "Search SX Projects\n  Date: " + Setting(11) + "\n  Path: " + Songs() +
+                              " - Excluding sub folders\nFind installed Plugins\n  Date: " +
+                              Setting(15) + "\n");
+    EXPECT_EQ(Setting(15).size(), std::string("mm-dd-yyyy hh:mm:ss").size());
+}
+
+}  // namespace
+}  // namespace marlo

@@ -1,0 +1,183 @@
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "core/RunTimeError.h"
+#include "inventory/ScanVSTFolder.h"
+#include "tests/support/ApplicationTest.h"
+
+namespace marlo {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class ScanVSTFolderTest : public test::ApplicationTest {
+  protected:
+    ScanVSTFolderTest() { folder.MakeFolder("vst"); }
+
+    std::string Vst(const std::string& name = "") const {
+        return folder.Path(name.empty() ? "vst" : "vst/" + name);
+    }
+
+    void Scan(const std::string& path, bool includeSubfolders = true) {
+        std::error_code error;
+        std::filesystem::remove(folder.Path("list.csv"));
+        LineWriter output(platform::File::OpenForAppending(folder.Path("list.csv"), error));
+        ScanVSTFolder(application, window, path, includeSubfolders, output, cancelled);
+    }
+
+    /// What a scan of "vst" writes.
+    std::string Lines(bool includeSubfolders = true) {
+        Scan(Vst(), includeSubfolders);
+        return folder.Read("list.csv");
+    }
+
+    std::string Line(const std::string& name, const std::string& file) const {
+        return "\"VST\",\"" + name + "\",\"" + Vst(file) + "\"\r\n";
+    }
+
+    bool cancelled = false;
+};
+
+TEST_F(ScanVSTFolderTest, SubfoldersAreIncludedWhenTheyAreWanted) {
+    folder.Write("vst/Reverb.dll", "");
+    folder.Write("vst/sub/Delay.dll", "");
+    EXPECT_EQ(Lines(true), Line("Reverb", "Reverb.dll") + Line("Delay", "sub/Delay.dll"));
+    EXPECT_EQ(Lines(false), Line("Reverb", "Reverb.dll"));
+}
+
+TEST_F(ScanVSTFolderTest, FilesComeBeforeSubfoldersAndNamesInOrderWithoutRegardToCase) {
+    for (const char* name :
+         {"b.dll", "A.dll", "C.dll", "a sub/z.dll", "B sub/y.dll", "a sub/1/x.dll"})
+        folder.Write(std::string("vst/") + name, "");
+    EXPECT_EQ(Lines(), Line("A", "A.dll") + Line("b", "b.dll") + Line("C", "C.dll") +
+                           Line("z", "a sub/z.dll") + Line("x", "a sub/1/x.dll") +
+                           Line("y", "B sub/y.dll"));
+}
+
+TEST_F(ScanVSTFolderTest, TheNameIsTheFilesWithoutItsLastExtension) {
+    folder.Write("vst/a.b.dll", "");
+    EXPECT_EQ(Lines(), Line("a.b", "a.b.dll"));
+}
+
+TEST_F(ScanVSTFolderTest, ANameIsInTheAnsiPageAndThePathOpensTheFile) {
+    const std::string path = folder.Write("vst/Réverb.dll", "a library");
+    EXPECT_EQ(Lines(), "\"VST\",\"R\xE9verb\",\"" + path + "\"\r\n");
+    EXPECT_EQ(folder.Read("vst/Réverb.dll"), "a library");
+}
+
+TEST_F(ScanVSTFolderTest, ANameThatIsNotInTheAnsiPageStaysAsItIs) {
+    folder.Write("vst/曲 é.dll", "");
+    folder.Write("vst/\xE9 raw.dll", "");
+    EXPECT_EQ(Lines(), Line("\xE9 raw", "\xE9 raw.dll") + Line("曲 é", "曲 é.dll"));
+}
+
+TEST_F(ScanVSTFolderTest, ANameWithACommaOrAQuoteIsWrittenAsItIs) {
+    folder.Write("vst/Chorus, \"Wide\".dll", "");
+    EXPECT_EQ(Lines(), Line("Chorus, \"Wide\"", "Chorus, \"Wide\".dll"));
+}
+
+TEST_F(ScanVSTFolderTest, ExcludedLibrariesAreNotWritten) {
+    for (const char* name : {"msvcrt.dll", "HALionReWire.dll", ".dll", "MSVCRT.dll"})
+        folder.Write(std::string("vst/") + name, "");
+    EXPECT_EQ(Lines(), Line("MSVCRT", "MSVCRT.dll")) << "the case of an excluded name counts";
+}
+
+TEST_F(ScanVSTFolderTest, TheSameNameInTwoFoldersHasTwoLines) {
+    folder.Write("vst/a/Reverb.dll", "");
+    folder.Write("vst/b/Reverb.dll", "");
+    EXPECT_EQ(Lines(), Line("Reverb", "a/Reverb.dll") + Line("Reverb", "b/Reverb.dll"));
+}
+
+TEST_F(ScanVSTFolderTest, OnlyTheExactTypeIsALibrary) {
+    desktop.descriptions = {{".dll", "Application extension"}, {".vst", "Application Extension"}};
+    folder.Write("vst/a.dll", "");
+    folder.Write("vst/b.vst", "");
+    folder.Write("vst/c.txt", "");
+    EXPECT_EQ(Lines(), Line("b", "b.vst"));
+}
+
+TEST_F(ScanVSTFolderTest, AMissingFolderGivesNoLineAndNoMessage) {
+    Scan(folder.Path("gone"));
+    Scan(folder.Write("file", ""));
+    EXPECT_EQ(folder.Read("list.csv"), "");
+    EXPECT_EQ(window.messages.size(), 0U);
+    EXPECT_EQ(Log(), "");
+    EXPECT_FALSE(cancelled);
+}
+
+TEST_F(ScanVSTFolderTest, AFolderThatMayNotBeOpenedIsPassedOver) {
+    folder.Write("vst/a/Delay.dll", "");
+    folder.Write("vst/b/Reverb.dll", "");
+    using std::filesystem::perms;
+    std::filesystem::permissions(Vst("a"), perms::none);
+    std::filesystem::permissions(folder.Path(), perms{0777});  // for the list
+    {
+        const test::OrdinaryUser user;
+        EXPECT_EQ(Lines(), Line("Reverb", "b/Reverb.dll"));
+    }
+    std::filesystem::permissions(Vst("a"), perms{0755});
+}
+
+TEST_F(ScanVSTFolderTest, EachFolderIsShownBeforeItIsOpened) {
+    folder.Write("vst/sub/Delay.dll", "");
+    Scan(Vst());
+    EXPECT_EQ(window.events,
+              (Texts{"Text2: " + Vst(), "Events", "Text2: " + Vst("sub"), "Events"}));
+}
+
+TEST_F(ScanVSTFolderTest, AfterCancelNoFurtherFolderIsOpened) {
+    folder.Write("vst/Reverb.dll", "");
+    folder.Write("vst/a/Delay.dll", "");
+    folder.Write("vst/b/Echo.dll", "");
+    window.onEvents = [&, count = 0]() mutable {
+        if (++count == 2)
+            window.cancelTag = kCancelTag;
+    };
+    EXPECT_EQ(Lines(), Line("Reverb", "Reverb.dll"));
+    EXPECT_TRUE(cancelled);
+    EXPECT_EQ(window.text2, Vst("a")) << "b is not even shown";
+}
+
+TEST_F(ScanVSTFolderTest, OnlyTheExactMarkCancels) {
+    window.cancelTag = "cancel";
+    folder.Write("vst/Reverb.dll", "");
+    EXPECT_EQ(Lines(), Line("Reverb", "Reverb.dll"));
+    EXPECT_FALSE(cancelled);
+}
+
+TEST_F(ScanVSTFolderTest, ACancelOfBeforeIsNotTakenBack) {
+    cancelled = true;
+    Scan(Vst());
+    EXPECT_TRUE(cancelled);
+}
+
+TEST_F(ScanVSTFolderTest, AFolderLinkDoesNotMakeTheWalkEndlessOrAFolderListedTwice) {
+    folder.Write("vst/a/Delay.dll", "");
+    std::filesystem::create_directory_symlink("..", Vst("a/up"));
+    std::filesystem::create_directory_symlink("a", Vst("link"));
+    EXPECT_EQ(Lines(), Line("Delay", "a/Delay.dll"));
+}
+
+TEST_F(ScanVSTFolderTest, ALinkedFolderIsScanned) {
+    folder.Write("elsewhere/Delay.dll", "");
+    std::filesystem::create_directory_symlink("../elsewhere", Vst("link"));
+    EXPECT_EQ(Lines(), Line("Delay", "link/Delay.dll"));
+}
+
+TEST_F(ScanVSTFolderTest, AFileThatCannotBeAskedAboutIsAFailure) {
+    desktop.unreadable = {"Delay.dll"};
+    folder.Write("vst/Delay.dll", "");
+    EXPECT_THROW(Scan(Vst()), RunTimeError);
+}
+
+TEST_F(ScanVSTFolderTest, ALibraryWithoutAnExtensionIsAFailure) {
+    desktop.descriptions = {{"", "Application Extension"}};
+    folder.Write("vst/nodot", "");
+    EXPECT_THROW(Scan(Vst()), RunTimeError);
+}
+
+}  // namespace
+}  // namespace marlo
