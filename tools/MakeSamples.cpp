@@ -1,13 +1,15 @@
-// Writes a small archive of sample projects, and a folder of plug-in libraries to go with them.
-// Usage: marlo-samples FOLDER
+// Writes a small archive of sample projects, and to go with them a folder of plug-in libraries and
+// a Wine prefix in which two effects are registered. Usage: marlo-samples FOLDER
 
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "tools/FilterWriter.h"
 #include "tools/ProjectWriter.h"
 
 namespace {
@@ -73,6 +75,31 @@ void WriteLibraries(const std::filesystem::path& folder) {
     WriteFile(folder / "Read me.txt", "Not a plug-in.\r\n");
 }
 
+std::string HexList(const std::vector<unsigned char>& bytes) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string text;
+    for (const unsigned char byte : bytes) {
+        if (!text.empty())
+            text += ',';
+        text += digits[byte / 16U];
+        text += digits[byte % 16U];
+    }
+    return text;
+}
+
+void WriteWinePrefix(const std::filesystem::path& folder) {
+    const std::string classes = "[Software\\\\Classes\\\\CLSID\\\\";
+    WriteFile(folder / "system.reg",
+              "WINE REGISTRY Version 2\n;; All keys relative to REGISTRY\\\\Machine\n\n"
+              "#arch=win32\n\n" +
+                  classes + "{5A3B1C00-0000-0000-0000-000000000001}] 1163560222\n" +
+                  "@=\"DX Echo\"\n\"Merit\"=dword:00200000\n\n" + classes +
+                  "{083863F1-70DE-11D0-BD40-00A0C911CE86}\\\\Instance\\\\" +
+                  "{5A3B1C00-0000-0000-0000-000000000002}] 1163560222\n" +
+                  "\"FilterData\"=hex:" + HexList(marlo::tools::EffectFilterData()) +
+                  "\n\"FriendlyName\"=\"Unused Vocoder\"\n");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -84,6 +111,7 @@ int main(int argc, char** argv) {
         const std::filesystem::path folder = argv[1];
         WriteProjects(folder / "Projects");
         WriteLibraries(folder / "VstPlugins");
+        WriteWinePrefix(folder / "WinePrefix");
     } catch (const std::exception& failure) {
         std::cerr << "marlo-samples: " << failure.what() << '\n';
         return 1;
