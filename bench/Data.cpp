@@ -1,11 +1,14 @@
 #include "bench/Data.h"
 
+#include <array>
 #include <cmath>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <random>
 #include <stdexcept>
 
+#include "platform/Machine.h"
 #include "tools/ProjectWriter.h"
 
 namespace marlo::bench {
@@ -70,6 +73,14 @@ const std::string& DataFolder() {
     return folder;
 }
 
+Application BenchApplication() {
+    return {DataFolder(),
+            platform::SystemClock(),
+            platform::SystemDesktop(),
+            platform::SystemRegistry(),
+            {}};
+}
+
 const std::vector<std::string>& RealisticLibrary() {
     static const std::vector<std::string> paths = [] {
         std::vector<std::string> made;
@@ -98,6 +109,43 @@ std::string HostileFile(const std::string& name, std::string (*make)(std::size_t
                         std::size_t size) {
     return WriteOnce("hostile/" + name + "-" + std::to_string(size) + ".cpr",
                      [&] { return make(size); });
+}
+
+std::string FileTree(const std::string& name, std::size_t folderCount,
+                     const std::vector<std::string>& extensions) {
+    constexpr std::size_t filesInFolder = 10;
+    constexpr std::size_t foldersInFolder = 40;
+    // The last file made tells that the tree is whole.
+    for (std::size_t i = 0; i < folderCount * filesInFolder; ++i) {
+        const std::size_t folder = i / filesInFolder;
+        const std::string path = name + "/" + std::to_string(folder / foldersInFolder) + "/" +
+                                 std::to_string(folder) + "/Plug-in " + std::to_string(i) +
+                                 extensions[i % extensions.size()];
+        WriteOnce(path, [] { return ""; });
+    }
+    return (std::filesystem::path(DataFolder()) / name).string();
+}
+
+std::string WinePrefixFolder(std::size_t size, std::size_t effectCount) {
+    const std::string name = "prefix-" + std::to_string(size);
+    WriteOnce(name + "/system.reg", [&] {
+        std::string text = "WINE REGISTRY Version 2\n\n#arch=win64\n\n";
+        for (std::size_t i = 0; text.size() < size; ++i) {
+            std::array<char, 80> id{};
+            std::snprintf(id.data(), id.size(), "{%08zX-1D2E-11CE-9BD9-0000E202599C}", i);
+            const std::string key = "[Software\\\\Classes\\\\CLSID\\\\" + std::string(id.data());
+            text += key + "] 1795254019\n#time=1dd799c52a5e65e\n@=\"Class " + std::to_string(i) +
+                    "\"\n";
+            text += i < effectCount ? "\"Merit\"=dword:00200000\n\n" : "\n";
+            text += key + "\\\\InProcServer32] 1795254019\n#time=1dd799c52a5e65e\n" +
+                    "@=\"C:\\\\windows\\\\system32\\\\quartz.dll\"\n\"ThreadingModel\"=\"Both\"\n" +
+                    "\"Data\"=hex:30,70,69,33,00,00,00,00,00,00,00,00,01,00,00,00,00,00,00,00,00,"
+                    "00,\\\n" +
+                    "  00,00,30,74,79,33,00,00,00,00,60,00,00,00,70,00,00,00\n\n";
+        }
+        return text;
+    });
+    return (std::filesystem::path(DataFolder()) / name).string();
 }
 
 }  // namespace marlo::bench

@@ -4,11 +4,16 @@
 #include <string>
 #include <vector>
 
+#include "core/Application.h"
+
 namespace marlo::bench {
 
 /// The folder for the files that the benchmarks read. Files are made when they are missing and
 /// stay for the next run.
 const std::string& DataFolder();
+
+/// An application in that folder, on this machine.
+Application BenchApplication();
 
 /// 300 projects of a real archive's sizes, 80 KiB to 8 MiB, 400 MB in all, each with a dozen
 /// plug-ins. @return their paths.
@@ -20,5 +25,14 @@ std::vector<std::string> SmallProjects(std::size_t count);
 /// A file whose bytes are made by `make` if it is not there yet. @return its path.
 std::string HostileFile(const std::string& name, std::string (*make)(std::size_t size),
                         std::size_t size);
+
+/// A tree of `folderCount` folders, forty in each at most, with ten empty files each, whose names
+/// end with `extensions` in turn. @return its path.
+std::string FileTree(const std::string& name, std::size_t folderCount,
+                     const std::vector<std::string>& extensions);
+
+/// A Wine prefix whose "system.reg" has about `size` bytes, with `effectCount` registered effects
+/// among the other classes. @return its path.
+std::string WinePrefixFolder(std::size_t size, std::size_t effectCount);
 
 }  // namespace marlo::bench

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <fcntl.h>
-#include <functional>
 #include <stdexcept>
 #include <string>
 #include <unistd.h>
@@ -13,7 +12,6 @@
 #include "bench/Data.h"
 #include "bench/Report.h"
 #include "core/Application.h"
-#include "platform/Machine.h"
 #include "scan/ProjectPlugins.h"
 #include "scan/SearchLists.h"
 
@@ -21,14 +19,8 @@ namespace marlo::bench {
 namespace {
 
 constexpr std::size_t kMiB = std::size_t{1024} * 1024;
-constexpr int kRepetitions = 9;
 
 using benchmark::State;
-
-Application BenchApplication() {
-    return {DataFolder(), platform::SystemClock(), platform::SystemDesktop(),
-            platform::SystemRegistry(), {}};
-}
 
 /// Aligned, as reading into a buffer that is not takes some 40 % longer.
 struct alignas(4096) PlainBuffer : std::array<char, std::size_t{256} * 1024> {};
@@ -106,14 +98,6 @@ std::string BanksWithOneLongName(std::size_t size) {
     while (bytes.size() < size)
         bytes += bank;
     return bytes + std::string(64, '\0');
-}
-
-void Register(const std::string& name, const std::function<void(State&)>& run) {
-    benchmark::RegisterBenchmark(name.c_str(), run)
-        ->Unit(benchmark::kMillisecond)
-        ->Repetitions(kRepetitions)
-        ->ReportAggregatesOnly()
-        ->UseRealTime();
 }
 
 /// What four times the input may cost. Beyond four, as the larger lists leave the processor's

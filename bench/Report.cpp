@@ -8,6 +8,8 @@ namespace marlo::bench {
 
 namespace {
 
+constexpr int kRepetitions = 9;
+
 std::vector<Comparison>& Comparisons() {
     static std::vector<Comparison> comparisons;
     return comparisons;
@@ -35,6 +37,14 @@ bool Meets(const Comparison& comparison, double ratio) {
 
 void Compare(Comparison comparison) {
     Comparisons().push_back(std::move(comparison));
+}
+
+void Register(const std::string& name, const std::function<void(benchmark::State&)>& run) {
+    benchmark::RegisterBenchmark(name.c_str(), run)
+        ->Unit(benchmark::kMillisecond)
+        ->Repetitions(kRepetitions)
+        ->ReportAggregatesOnly()
+        ->UseRealTime();
 }
 
 void Report::ReportRuns(const std::vector<Run>& runs) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -35,5 +36,8 @@ struct Comparison {
 
 /// Registers a comparison; to be called before the benchmarks run.
 void Compare(Comparison comparison);
+
+/// Registers a benchmark; its time is the wall clock's. To be called before the benchmarks run.
+void Register(const std::string& name, const std::function<void(benchmark::State&)>& run);
 
 }  // namespace marlo::bench

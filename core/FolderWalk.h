@@ -1,8 +1,13 @@
 #pragma once
 
+#include <initializer_list>
 #include <optional>
 #include <set>
+#include <string>
+#include <string_view>
+#include <vector>
 
+#include "core/Application.h"
 #include "platform/FileSystem.h"
 
 namespace marlo {
@@ -20,5 +25,12 @@ class VisitedFolders {
   private:
     std::set<platform::FileIdentity> visited_;
 };
+
+/// The names of those files in `folder` whose type, as the desktop describes it, is one of `types`,
+/// exactly; in their order without regard to case.
+/// @throws RunTimeError when a file cannot be asked about.
+std::vector<std::string> FilesOfTypes(const Application& application, const std::string& folder,
+                                      std::vector<platform::FileEntry> files,
+                                      std::initializer_list<std::string_view> types);
 
 }  // namespace marlo

@@ -54,21 +54,26 @@ std::int32_t NumberIn(const Bytes& buffer) {
     return static_cast<std::int32_t>(number);
 }
 
-/// @param buffer may be taken over by the result.
-RegistryValue Convert(std::int32_t type, Bytes& buffer, std::uint32_t length) {
+/// @param buffer taken over by the result where that is an array.
+/// @param result left as it is by a failure.
+void Convert(std::int32_t type, Bytes& buffer, std::uint32_t length, RegistryValue& result) {
     switch (type) {
         case platform::registry_type::kString:
         case platform::registry_type::kExpandString:
-            return TextIn(buffer, length, 1);
+            result = TextIn(buffer, length, 1);
+            break;
         case platform::registry_type::kBinary:
             ResizeTo(buffer, length);
-            return std::move(buffer);
+            result = std::move(buffer);
+            break;
         case platform::registry_type::kDword:
-            return NumberIn(buffer);
+            result = NumberIn(buffer);
+            break;
         case platform::registry_type::kMultiString:
-            return TextIn(buffer, length, 2);
+            result = TextIn(buffer, length, 2);
+            break;
         default:
-            return std::string();
+            result = std::string();
     }
 }
 
@@ -95,7 +100,7 @@ RegistryValue GetRegistryValue(const Application& application, RegistryKey hkey1
             buffer.assign(length, 0);
             registry.QueryValue(key, valueName, keyType, buffer, length);
         }
-        result = Convert(keyType, buffer, length);
+        Convert(keyType, buffer, length, result);
     });
     return result;
 }

@@ -42,13 +42,9 @@ class LibraryWalk {
     }
 
   private:
-    void VisitFiles(const std::string& folder, std::vector<std::string> names) {
-        std::vector<std::string> libraries;
-        for (std::string& name : names)
-            if (IsLibrary(platform::JoinPath(folder, name)))
-                libraries.push_back(std::move(name));
-        SortIgnoringCase(libraries);
-        for (const std::string& name : libraries)
+    void VisitFiles(const std::string& folder, std::vector<platform::FileEntry> files) {
+        for (const std::string& name :
+             FilesOfTypes(application_, folder, std::move(files), {"Application Extension"}))
             Write(name, platform::JoinPath(folder, name));
     }
 
@@ -58,13 +54,6 @@ class LibraryWalk {
             if (!Visit(platform::JoinPath(folder, name)))
                 return false;
         return true;
-    }
-
-    bool IsLibrary(const std::string& path) const {
-        std::error_code error;
-        const std::string type = application_.desktop.FileTypeDescription(path, error);
-        ThrowOn(error);
-        return type == "Application Extension";
     }
 
     void Write(const std::string& fileName, const std::string& path) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <system_error>
 
+#include "platform/FileSystem.h"
+
 namespace marlo::platform {
 
 /// What the desktop's shell knows about files.
@@ -17,10 +19,11 @@ class Desktop {
     /// regard to case: `.cpr` is a "CPR File", `.dll` an "Application Extension".
     ///
     /// @param path a file's path.
+    /// @param kind what is known of the file; a regular one is not looked at any more.
     /// @param error cleared, or set when the file is there but cannot be asked about.
     /// @return the description; empty for anything that is not a regular file or has no
     ///         description.
-    virtual std::string FileTypeDescription(const std::string& path,
+    virtual std::string FileTypeDescription(const std::string& path, FileKind kind,
                                             std::error_code& error) const = 0;
 
     /// The program that opens files with an extension, by the desktop's own associations.

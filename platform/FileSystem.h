@@ -29,10 +29,19 @@ FileStamp StampOf(const std::string& path, std::error_code& error);
 /// since the file system's clock ticks slowly.
 bool IsSettled(const FileStamp& stamp);
 
-/// The names in a folder, "." and ".." left out, in no particular order.
+/// What a folder's listing tells of a file, which saves looking at the file itself.
+enum class FileKind { Unknown, Regular };
+
+/// A file in a folder.
+struct FileEntry {
+    std::string name;
+    FileKind kind = FileKind::Unknown;
+};
+
+/// What is in a folder, "." and ".." left out, in no particular order.
 struct FolderEntries {
-    std::vector<std::string> files;    ///< whatever is not a folder
-    std::vector<std::string> folders;  ///< folders, and links to folders
+    std::vector<FileEntry> files;      ///< whatever is not a folder
+    std::vector<std::string> folders;  ///< the names of folders, and of links to folders
 };
 
 /// An open folder; closed when it goes out of scope. Every routine clears `error` or sets it.

@@ -40,13 +40,9 @@ class ProjectWalk {
             VisitSubfolders(path, std::move(entries->folders));
     }
 
-    void VisitFiles(const std::string& folder, std::vector<std::string> names) {
-        std::vector<std::string> projects;
-        for (std::string& name : names)
-            if (IsProject(platform::JoinPath(folder, name)))
-                projects.push_back(std::move(name));
-        SortIgnoringCase(projects);
-        for (const std::string& name : projects)
+    void VisitFiles(const std::string& folder, std::vector<platform::FileEntry> files) {
+        for (const std::string& name :
+             FilesOfTypes(application_, folder, std::move(files), {"CubaseSX Project", "CPR File"}))
             Add(platform::JoinPath(folder, name));
     }
 
@@ -59,13 +55,6 @@ class ProjectWalk {
             ThrowOnPath(error);
             Visit(path, std::move(subfolder));
         }
-    }
-
-    bool IsProject(const std::string& path) const {
-        std::error_code error;
-        const std::string type = application_.desktop.FileTypeDescription(path, error);
-        ThrowOn(error);
-        return type == "CubaseSX Project" || type == "CPR File";
     }
 
     void Add(const std::string& path) {

@@ -12,7 +12,10 @@ namespace marlo::cli {
 namespace {
 
 void PrintLine(const std::string& label, const std::string& value) {
-    std::cout << "  " << label << ':' << (value.empty() ? "" : " " + Printable(value)) << '\n';
+    std::cout << "  " << label << ':';
+    if (!value.empty())
+        std::cout << ' ' << Printable(value);
+    std::cout << '\n';
 }
 
 }  // namespace

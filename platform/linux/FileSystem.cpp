@@ -84,8 +84,12 @@ FolderEntries Folder::Entries(std::error_code& error) const {
         const std::string_view name = static_cast<const char*>(entry->d_name);
         if (name == "." || name == "..")
             continue;
-        auto& names = IsFolderEntry(dirfd(handle), *entry) ? entries.folders : entries.files;
-        names.emplace_back(name);
+        if (IsFolderEntry(dirfd(handle), *entry))
+            entries.folders.emplace_back(name);
+        else
+            entries.files.push_back({std::string(name), entry->d_type == DT_REG
+                                                            ? FileKind::Regular
+                                                            : FileKind::Unknown});
     }
 }
 

@@ -32,12 +32,12 @@ std::string DescriptionOf(const std::string& path) {
 
 }  // namespace
 
-std::string LinuxDesktop::FileTypeDescription(const std::string& path,
+std::string LinuxDesktop::FileTypeDescription(const std::string& path, FileKind kind,
                                               std::error_code& error) const {
     error.clear();
     const std::string description = DescriptionOf(path);
-    if (description.empty())
-        return {};
+    if (description.empty() || kind == FileKind::Regular)
+        return description;
     struct stat status {};
     if (stat(path.c_str(), &status) != 0) {
         // A dangling link, or a file that has just gone: not a regular file, and no failure.

@@ -8,7 +8,8 @@ namespace marlo::platform {
 /// the ones that another system's shell would show.
 class LinuxDesktop final : public Desktop {
   public:
-    std::string FileTypeDescription(const std::string& path, std::error_code& error) const override;
+    std::string FileTypeDescription(const std::string& path, FileKind kind,
+                                    std::error_code& error) const override;
 
     /// By GIO, which knows the desktop's mimeapps.list and .desktop files; empty where it is not
     /// installed.

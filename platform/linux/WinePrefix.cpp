@@ -40,7 +40,8 @@ std::string MatchName(const std::string& folder, const std::string& name) {
         return {};
     auto entries = open.Entries(error);
     auto& names = entries.folders;
-    names.insert(names.end(), entries.files.begin(), entries.files.end());
+    for (FileEntry& file : entries.files)
+        names.push_back(std::move(file.name));
     // More than one may match; which one does must not depend on the order of the folder.
     std::sort(names.begin(), names.end());
     const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& candidate) {

@@ -20,6 +20,13 @@ class FileSystemTest : public testing::Test {
         return names;
     }
 
+    static Names NamesOf(const std::vector<FileEntry>& files) {
+        Names names;
+        for (const FileEntry& file : files)
+            names.push_back(file.name);
+        return Sorted(names);
+    }
+
     test::TempFolder folder;
     std::error_code error;
 };
@@ -33,8 +40,16 @@ TEST_F(FileSystemTest, AFoldersEntriesAreFilesAndFoldersAndLinksCountAsWhatTheyL
     std::filesystem::create_symlink("nowhere", folder.Path("dangling"));
     const auto entries = Folder::Open(folder.Path(), error).Entries(error);
     EXPECT_FALSE(error);
-    EXPECT_EQ(Sorted(entries.files), (Names{".hidden", "dangling", "file", "to file"}));
+    EXPECT_EQ(NamesOf(entries.files), (Names{".hidden", "dangling", "file", "to file"}));
     EXPECT_EQ(Sorted(entries.folders), (Names{"sub", "to folder"}));
+}
+
+TEST_F(FileSystemTest, AListingTellsRegularFilesFromLinks) {
+    folder.Write("file", "");
+    EXPECT_EQ(Folder::Open(folder.Path(), error).Entries(error).files[0].kind, FileKind::Regular);
+    std::filesystem::create_symlink("file", folder.Path("link"));
+    for (const FileEntry& file : Folder::Open(folder.Path(), error).Entries(error).files)
+        EXPECT_EQ(file.kind, file.name == "link" ? FileKind::Unknown : FileKind::Regular);
 }
 
 TEST_F(FileSystemTest, AFolderIsTheSameWhateverPathLeadsToIt) {

@@ -14,8 +14,8 @@ namespace {
 
 class DesktopTest : public testing::Test {
   protected:
-    std::string Describe(const std::string& path) {
-        return SystemDesktop().FileTypeDescription(path, error);
+    std::string Describe(const std::string& path, FileKind kind = FileKind::Unknown) {
+        return SystemDesktop().FileTypeDescription(path, kind, error);
     }
 
     test::TempFolder folder;
@@ -68,6 +68,11 @@ TEST_F(DesktopTest, ALinkToAProjectIsAProject) {
     folder.Write("real.cpr", "");
     std::filesystem::create_symlink("real.cpr", folder.Path("link.cpr"));
     EXPECT_EQ(Describe(folder.Path("link.cpr")), "CPR File");
+}
+
+TEST_F(DesktopTest, AFileThatIsKnownToBeRegularIsNotLookedAt) {
+    EXPECT_EQ(Describe(folder.Path("gone.dll"), FileKind::Regular), "Application Extension");
+    EXPECT_EQ(Describe(folder.Path("gone.txt"), FileKind::Regular), "");
 }
 
 TEST_F(DesktopTest, AFileThatCannotBeAskedAboutIsAnError) {

@@ -40,7 +40,7 @@ std::string FakeClock::ShortDateText(const std::tm& moment) const {
     return Format(moment, "%d/%m/%Y");
 }
 
-std::string FakeDesktop::FileTypeDescription(const std::string& path,
+std::string FakeDesktop::FileTypeDescription(const std::string& path, platform::FileKind /*kind*/,
                                              std::error_code& error) const {
     const std::filesystem::path file = path;
     error.clear();

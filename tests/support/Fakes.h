@@ -25,7 +25,8 @@ class FakeClock final : public platform::Clock {
 /// A desktop that describes files by their extensions.
 class FakeDesktop final : public platform::Desktop {
   public:
-    std::string FileTypeDescription(const std::string& path, std::error_code& error) const override;
+    std::string FileTypeDescription(const std::string& path, platform::FileKind kind,
+                                    std::error_code& error) const override;
 
     /// From an extension, with its dot, to the type's description.
     std::map<std::string, std::string> descriptions = {{".cpr", "CPR File"},
