@@ -1,5 +1,6 @@
 #include "inventory/ScanVSTFolder.h"
 
+#include <algorithm>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -24,7 +25,7 @@ class LibraryWalk {
           includeSubfolders_(includeSubfolders),
           output_(output) {}
 
-    /// @return false when the user cancelled.
+    /// @return false when the user cancelled, which ends the walk.
     bool Visit(const std::string& path) {
         window_.SetText2(path);
         window_.LetEventsRun();
@@ -50,10 +51,9 @@ class LibraryWalk {
 
     bool VisitSubfolders(const std::string& folder, std::vector<std::string> names) {
         SortIgnoringCase(names);
-        for (const std::string& name : names)
-            if (!Visit(platform::JoinPath(folder, name)))
-                return false;
-        return true;
+        return std::all_of(names.begin(), names.end(), [&](const std::string& name) {
+            return Visit(platform::JoinPath(folder, name));
+        });
     }
 
     void Write(const std::string& fileName, const std::string& path) {

@@ -89,10 +89,8 @@ std::error_code WinePrefix::Problem() {
 const WineRegistryFile* WinePrefix::FollowLinks(const WineRegistryFile* file,
                                                 std::string& path) const {
     for (int followed = 0; file != nullptr && followed < kMostLinks; ++followed) {
-        const auto link =
-            std::find_if(file->Links().begin(), file->Links().end(),
-                         [&](const auto& candidate) { return RestBelow(path, candidate.path); });
-        if (link == file->Links().end())
+        const auto* const link = file->FindLink(path);
+        if (link == nullptr)
             return file;
         const std::string target =
             JoinKeys(std::string_view(link->target).substr(1), *RestBelow(path, link->path));

@@ -46,8 +46,7 @@ std::size_t CountKeyLines(std::string_view text) {
 /// The step of a path at `index`, 0-based; empty when the path is shorter.
 std::string_view Step(std::string_view path, std::size_t index) {
     const std::string_view head = Head(path, index + 1);
-    const std::string_view parent = Head(path, index);
-    return head.substr(parent.empty() ? 0 : std::min(parent.size() + 1, head.size()));
+    return index == 0 ? head : head.substr(std::min(Head(path, index).size() + 1, head.size()));
 }
 
 }  // namespace
@@ -80,6 +79,9 @@ void WineRegistryFile::Index() {
     }
     for (const std::size_t index : linked)
         AddLink(entries_[index]);
+    std::sort(links_.begin(), links_.end(), [](const Link& left, const Link& right) {
+        return CompareNames(left.path, right.path) < 0;
+    });
     const auto comesBefore = [this](const Entry& left, const Entry& right) {
         return CompareNames(PathOf(left), PathOf(right)) < 0;
     };
@@ -110,6 +112,19 @@ void WineRegistryFile::AddLink(const Entry& entry) {
     std::string target = value ? Utf8FromUtf16(value->data) : "";
     if (target.starts_with('\\'))
         links_.push_back({std::string(PathOf(entry)), std::move(target)});
+}
+
+const WineRegistryFile::Link* WineRegistryFile::FindLink(std::string_view path) const {
+    for (std::size_t depth = 1; !links_.empty() && depth <= Depth(path); ++depth) {
+        const std::string_view head = Head(path, depth);
+        const auto found = std::lower_bound(links_.begin(), links_.end(), head,
+                                            [](const Link& link, std::string_view wanted) {
+                                                return CompareNames(link.path, wanted) < 0;
+                                            });
+        if (found != links_.end() && CompareNames(found->path, head) == 0)
+            return &*found;
+    }
+    return nullptr;
 }
 
 std::optional<WineRegistryFile::Node> WineRegistryFile::Find(std::string_view path) const {

@@ -43,7 +43,8 @@ class WineRegistryFile {
     /// programs.
     bool IsWin32() const { return isWin32_; }
 
-    const std::vector<Link>& Links() const { return links_; }
+    /// The key at `path`, or on the way to it, that stands for another one; null without one.
+    const Link* FindLink(std::string_view path) const;
 
     /// Finds a key by its path; "" is the root of the file, which is there unless the file is
     /// empty.
@@ -74,7 +75,7 @@ class WineRegistryFile {
 
     std::string text_;
     std::vector<Entry> entries_;  // sorted by path
-    std::vector<Link> links_;
+    std::vector<Link> links_;     // sorted by path
     bool isWin32_ = false;
 };
 

@@ -260,13 +260,15 @@ bool IsContinuation(std::string_view text, std::size_t position) {
     return position < text.size() && (static_cast<unsigned char>(text[position]) & 0xC0U) == 0x80;
 }
 
-/// A character's place in the registry's order.
+/// A character's place in the registry's order. The separator comes first, so that what lies below
+/// a key follows it at once.
 char32_t Rank(char32_t character) {
     if (character == kPathSeparator)
-        return 0;  // so that what lies below a key follows it at once
-    if (character < 0x80)
-        return character >= 'A' && character <= 'Z' ? character - 'A' + 'a' : character;
-    return static_cast<char32_t>(utf8proc_tolower(static_cast<utf8proc_int32_t>(character)));
+        return 0;
+    if (character >= 0x80)
+        return static_cast<char32_t>(utf8proc_tolower(static_cast<utf8proc_int32_t>(character))) +
+               1;
+    return (character >= 'A' && character <= 'Z' ? character - 'A' + 'a' : character) + 1;
 }
 
 }  // namespace
@@ -305,8 +307,10 @@ int CompareNames(std::string_view left, std::string_view right) {
 
 std::string_view Head(std::string_view path, std::size_t depth) {
     std::size_t end = 0;
-    for (; depth > 0 && end < path.size(); --depth)
-        end = std::min(path.find(kPathSeparator, end == 0 ? 0 : end + 1), path.size());
+    for (std::size_t start = 0; depth > 0 && start <= path.size(); --depth) {
+        end = std::min(path.find(kPathSeparator, start), path.size());
+        start = end + 1;
+    }
     return path.substr(0, end);
 }
 
@@ -317,11 +321,12 @@ std::size_t Depth(std::string_view path) {
 }
 
 std::optional<std::string_view> RestBelow(std::string_view path, std::string_view top) {
+    if (top.empty())
+        return path;
     const std::string_view head = Head(path, Depth(top));
     if (CompareNames(head, top) != 0)
         return std::nullopt;
-    const bool isBelow = path.size() > head.size() && !head.empty();
-    return path.substr(head.size() + (isBelow ? 1 : 0));
+    return path.substr(std::min(head.size() + 1, path.size()));
 }
 
 std::string Utf8FromUtf16(const std::vector<unsigned char>& bytes) {

@@ -1,6 +1,8 @@
 #include <cstdlib>
 #include <filesystem>
+#include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -18,6 +20,7 @@ using Names = std::vector<std::string>;
 
 constexpr const char* kHeader =
     "WINE REGISTRY Version 2\n;; All keys relative to REGISTRY\\\\X\n\n";
+constexpr std::size_t kHeaderLength = std::string_view("WINE REGISTRY Version 2\n").size();
 constexpr const char* k64Bit = "#arch=win64\n\n";
 constexpr const char* k32Bit = "#arch=win32\n\n";
 
@@ -271,6 +274,33 @@ TEST_F(WinePrefixTest, ListingBeyondTheEndOrIntoTooSmallABufferFails) {
     EXPECT_EQ(prefix.EnumerateKey(key, 1, buffer, length), kNoMoreItems);
     buffer.resize(3);
     EXPECT_EQ(prefix.EnumerateKey(key, 0, buffer, length), kMoreData);
+}
+
+TEST_F(WinePrefixTest, BrokenFilesAreReadWithoutHarm) {
+    const std::string whole =
+        kHeader + std::string(k64Bit) + Link("Software\\\\L", "\\Registry\\Machine\\Software\\K") +
+        "[Software\\\\K] 1\n#time=1\n@=\"R\\xe9verb\\xd83c\"\n\"Merit\"=dword:00200000\n"
+        "\"FilterData\"=hex:02,00,00,\\\n  00,01\n\"a\"=str(7):\"x\\0y\\0\"\n"
+        "\"b\"=hex(1):41,00,00,00\n\n[Software\\\\K\\\\Sub\\[\\x66f2\\]] 1\n@=\"\"\n";
+    std::mt19937 random(1163560222);
+    const auto below = [&](std::size_t bound) { return random() % bound; };
+    std::size_t found = 0;
+    for (int round = 0; round < 3000; ++round) {
+        std::string text = whole;
+        for (std::size_t changes = below(4); changes > 0; --changes)
+            text[kHeaderLength + below(text.size() - kHeaderLength)] =
+                "\\\"\n[]=x0,:#@ \xE9"[below(14)];
+        if (below(3) == 0)
+            text.resize(kHeaderLength + below(text.size() - kHeaderLength));
+        folder.Write("system.reg", text);
+        prefix = WinePrefix(folder.Path());
+        for (const char* path : {"Software", "Software\\K", "Software\\L"}) {
+            Subkeys(kLocalMachine, path);
+            for (const char* name : {"", "Merit", "FilterData", "a", "b"})
+                found += Value(kLocalMachine, path, name).starts_with('(') ? 0 : 1;
+        }
+    }
+    EXPECT_GT(found, 10'000U) << "most values survive a few changes";
 }
 
 class LocalPathTest : public WinePrefixTest {

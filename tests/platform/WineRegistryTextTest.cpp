@@ -64,12 +64,15 @@ TEST(CompareNamesTest, TheOrderIsThatOfSmallLettersAndStepByStep) {
     EXPECT_LT(CompareNames("a\\z", "a b"), 0) << "what lies below a key follows it at once";
     EXPECT_LT(CompareNames("É", "Ê"), 0) << "characters that have their first byte in common";
     EXPECT_GT(CompareNames("b", "A"), 0);
+    EXPECT_NE(CompareNames("a\0b"s, "a\\b"), 0);
 }
 
 TEST(HeadTest, APathIsTakenApartInSteps) {
     EXPECT_EQ(Head("a\\b\\c", 0), "");
     EXPECT_EQ(Head("a\\b\\c", 2), "a\\b");
     EXPECT_EQ(Head("a\\b\\c", 9), "a\\b\\c");
+    EXPECT_EQ(Head("\\a", 1), "") << "the first step may be empty";
+    EXPECT_EQ(Head("\\a", 2), "\\a");
     EXPECT_EQ(Depth(""), 0U);
     EXPECT_EQ(Depth("a\\b\\c"), 3U);
 }
