@@ -11,7 +11,7 @@ namespace {
 
 class LineWriterTest : public testing::Test {
   protected:
-    LineWriter Open(const std::string& path) {
+    static LineWriter Open(const std::string& path) {
         std::error_code error;
         auto file = platform::File::OpenForAppending(path, error);
         EXPECT_FALSE(error);

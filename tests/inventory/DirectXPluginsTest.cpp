@@ -13,7 +13,6 @@ namespace {
 using platform::kClassesRoot;
 using platform::kCurrentUser;
 using platform::registry_type::kBinary;
-using platform::registry_type::kString;
 using tools::AudioPin;
 
 constexpr std::uint32_t kEffectMerit = 0x00200000;
