@@ -35,7 +35,7 @@ std::string DescriptionOf(const std::string& path) {
 std::string LinuxDesktop::FileTypeDescription(const std::string& path, FileKind kind,
                                               std::error_code& error) const {
     error.clear();
-    const std::string description = DescriptionOf(path);
+    std::string description = DescriptionOf(path);
     if (description.empty() || kind == FileKind::Regular)
         return description;
     struct stat status {};

@@ -22,7 +22,7 @@ class LineReaderTest : public testing::Test {
         return lines;
     }
 
-    ErrorNumber FailureOf(const std::string& path) const {
+    static ErrorNumber FailureOf(const std::string& path) {
         try {
             LineReader reader(path);
         } catch (const RunTimeError& failure) {
