@@ -74,6 +74,10 @@ bool WriteSetting(const Application& application, std::int16_t record, std::stri
                       [&] { WriteRecord(application, record, value); });
 }
 
+bool FitsSetting(std::string_view value) {
+    return value.size() <= kMaxSettingLength && TrimSpaces(value) == value;
+}
+
 std::string SettingDate(const std::tm& moment) {
     std::array<char, sizeof "mm-dd-yyyy hh:mm:ss"> text{};
     const std::size_t length =

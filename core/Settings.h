@@ -42,6 +42,9 @@ std::string getSetting(const Application& application, std::int16_t record);
 /// @return false after a failure, which is logged under "WriteSetting".
 bool WriteSetting(const Application& application, std::int16_t record, std::string_view value);
 
+/// Whether a setting gives `value` back as it is: neither cut nor trimmed.
+bool FitsSetting(std::string_view value);
+
 /// A date and time in the fixed form of the settings, "mm-dd-yyyy hh:mm:ss", 24 hours.
 std::string SettingDate(const std::tm& moment);
 

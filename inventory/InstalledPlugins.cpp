@@ -1,7 +1,5 @@
 #include "inventory/InstalledPlugins.h"
 
-#include <cstdint>
-#include <limits>
 #include <system_error>
 #include <utility>
 
@@ -14,6 +12,7 @@
 #include "core/Settings.h"
 #include "inventory/DirectXPlugins.h"
 #include "inventory/ScanVSTFolder.h"
+#include "inventory/VstFolders.h"
 #include "platform/File.h"
 
 namespace marlo {
@@ -31,11 +30,7 @@ LineWriter OpenOutput(const Application& application) {
 /// Scans the folders of the settings until the user cancels.
 void ScanVSTFolders(const Application& application, MainWindow& window, LineWriter& output,
                     InventorySummary& summary) {
-    constexpr std::int16_t lastRecord = std::numeric_limits<std::int16_t>::max();
-    for (std::int16_t record = setting::kFirstVstFolder; record < lastRecord; ++record) {
-        const std::string folder = getSetting(application, record);
-        if (folder.empty())
-            return;
+    for (const std::string& folder : ReadVstFolders(application)) {
         bool cancelled = false;
         ScanVSTFolder(application, window, folder, true, output, cancelled);
         output.Flush();

@@ -29,6 +29,7 @@ class LibraryWalk {
     bool Visit(const std::string& path) {
         window_.SetText2(path);
         window_.LetEventsRun();
+        window_.LetEventsRun();  // for a click that the first round has only put into the queue
         if (window_.CancelTag() == kCancelTag)
             return false;
         std::error_code error;

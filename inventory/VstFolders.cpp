@@ -49,8 +49,7 @@ void FillInVstFolder(const Application& application) {
     if (!getSetting(application, setting::kFirstVstFolder).empty())
         return;
     const std::string folder = SharedVstFolder(application);
-    // Cut short it would be another folder.
-    if (!folder.empty() && folder.size() <= kMaxSettingLength)
+    if (!folder.empty() && FitsSetting(folder))
         WriteSetting(application, setting::kFirstVstFolder, folder);
 }
 

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "app/cli/TerminalText.h"
+#include "core/Settings.h"
 #include "platform/Terminal.h"
 
 namespace marlo::cli {
@@ -22,6 +23,12 @@ ProgressStyle ProgressStyleFor(bool wantedAnyway) {
 int Complain(const std::string& command, int exitCode, const std::string& text) {
     std::cerr << "marlo-cli: " << command << ": " << Printable(text) << '\n';
     return exitCode;
+}
+
+int ComplainOfPath(const std::string& command, const std::string& path) {
+    return Complain(command, kFailed,
+                    path + ": a path with a space at its end or of more than " +
+                        std::to_string(kMaxSettingLength) + " bytes cannot be kept");
 }
 
 std::string Counted(std::size_t count, const std::string& noun) {

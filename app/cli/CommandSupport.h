@@ -21,6 +21,10 @@ ProgressStyle ProgressStyleFor(bool wantedAnyway);
 /// @return `exitCode`.
 int Complain(const std::string& command, int exitCode, const std::string& text);
 
+/// Says that the settings cannot keep a path.
+/// @return kFailed.
+int ComplainOfPath(const std::string& command, const std::string& path);
+
 /// "1 project", "2 projects".
 std::string Counted(std::size_t count, const std::string& noun);
 

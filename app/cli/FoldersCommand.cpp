@@ -7,7 +7,6 @@
 #include "app/cli/Commands.h"
 #include "app/cli/TerminalWindow.h"
 #include "core/Settings.h"
-#include "core/Text.h"
 #include "inventory/VstFolders.h"
 #include "platform/FileSystem.h"
 
@@ -27,11 +26,6 @@ int Write(const Application& application, const TerminalWindow& window,
           const std::vector<std::string>& folders) {
     const bool written = WriteVstFolders(application, folders);
     return written && !window.SawFailure() ? kDone : kFailed;
-}
-
-/// Whether a setting gives a path back as it was.
-bool CanBeKept(const std::string& path) {
-    return path.size() <= kMaxSettingLength && TrimSpaces(path) == path;
 }
 
 }  // namespace
@@ -55,10 +49,8 @@ int RunFoldersAdd(const Environment& environment, const std::string& folder) {
     const std::string path = platform::FullPath(folder, error);
     if (error || !platform::IsFolder(path, error))
         return Complain(kCommand, kFailed, folder + ": no such folder");
-    if (!CanBeKept(path))
-        return Complain(kCommand, kFailed,
-                        path + ": a path with a space at its end or of more than " +
-                            std::to_string(kMaxSettingLength) + " bytes cannot be kept");
+    if (!FitsSetting(path))
+        return ComplainOfPath(kCommand, path);
     auto folders = Folders(application);
     if (std::find(folders.begin(), folders.end(), path) != folders.end())
         return Complain(kCommand, kFailed, "Path is already in the list");

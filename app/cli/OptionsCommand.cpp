@@ -43,10 +43,8 @@ int RunOptions(const Environment& environment, const OptionsOptions& options) {
         const std::string path = platform::FullPath(*options.csvProgram, error);
         if (error || !platform::IsFile(path, error))
             return Complain(kCommand, kFailed, *options.csvProgram + ": no such program");
-        if (path.size() > kMaxSettingLength)
-            return Complain(kCommand, kFailed,
-                            path + ": a path of more than " + std::to_string(kMaxSettingLength) +
-                                " bytes cannot be kept");
+        if (!FitsSetting(path))
+            return ComplainOfPath(kCommand, path);
         WriteSetting(application, setting::kCsvProgram, path);
     }
     WriteFlag(application, setting::kIgnoreDirectX, options.ignoreDirectX);

@@ -1,6 +1,7 @@
 #include "platform/linux/Gio.h"
 
 #include <dlfcn.h>
+#include <filesystem>
 #include <gio/gio.h>
 #include <memory>
 
@@ -45,12 +46,17 @@ class Gio {
 
 using Text = std::unique_ptr<char, decltype(&g_free)>;
 
-/// The full path of the program that a command starts; empty when it is not installed.
+/// The full path of the program that a command starts; empty when it is not installed, or is one
+/// that only starts another.
 std::string ProgramOf(const Gio& gio, const char* command) {
     char** words = nullptr;
     if (command == nullptr || gio.parseCommand(command, nullptr, &words, nullptr) == FALSE)
         return {};
     const std::unique_ptr<char*, decltype(&g_strfreev)> owner(words, gio.freeAll);
+    // Those start the program that the rest of their command names.
+    const std::filesystem::path name = std::filesystem::path(*words).filename();
+    if (name == "env" || name == "flatpak" || name == "snap")
+        return {};
     const Text program(gio.findProgram(*words), gio.free);
     return program ? program.get() : std::string();
 }

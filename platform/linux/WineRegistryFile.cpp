@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <limits>
+#include <set>
 
 #include "platform/File.h"
 
@@ -61,7 +62,7 @@ WineRegistryFile WineRegistryFile::Load(const std::string& path, std::error_code
 
 void WineRegistryFile::Index() {
     entries_.reserve(CountKeyLines(text_));
-    std::vector<std::size_t> linked;
+    std::set<std::size_t> linked;
     bool inKey = false;
     for (std::size_t start = 0; start < text_.size();) {
         const std::size_t end = std::min(text_.find('\n', start), text_.size());
@@ -71,7 +72,7 @@ void WineRegistryFile::Index() {
         } else if (inKey) {
             entries_.back().linesEnd = static_cast<std::uint32_t>(std::min(end + 1, text_.size()));
             if (line.starts_with("#link"))
-                linked.push_back(entries_.size() - 1);
+                linked.insert(entries_.size() - 1);
         } else if (line.starts_with("#arch=win32")) {
             isWin32_ = true;
         }
@@ -98,7 +99,7 @@ bool WineRegistryFile::AddKey(std::size_t start, std::size_t end) {
     if (rest.empty())
         return false;
     // What the escapes stand for is never longer, so the path has room where it was.
-    std::copy(path.begin(), path.end(), text_.begin() + static_cast<std::ptrdiff_t>(start));
+    text_.replace(start, path.size(), path);
     const auto lines = static_cast<std::uint32_t>(std::min(end + 1, text_.size()));
     entries_.push_back({.path = static_cast<std::uint32_t>(start),
                         .pathLength = static_cast<std::uint32_t>(path.size()),
@@ -110,7 +111,9 @@ bool WineRegistryFile::AddKey(std::size_t start, std::size_t end) {
 void WineRegistryFile::AddLink(const Entry& entry) {
     const auto value = FindValue(LinesOf(entry), "SymbolicLinkValue");
     std::string target = value ? Utf8FromUtf16(value->data) : "";
-    if (target.starts_with('\\'))
+    // Registries are no deeper, and each step costs time when the link is followed.
+    constexpr std::size_t deepest = 512;
+    if (target.starts_with('\\') && Depth(target) <= deepest)
         links_.push_back({std::string(PathOf(entry)), std::move(target)});
 }
 

@@ -76,6 +76,12 @@ class UnitWriter {
             AppendUtf8(text_, isLow ? kReplacement : unit);
     }
 
+    /// Adds a byte as it is.
+    void AddByte(char byte) {
+        EndPair();
+        text_ += byte;
+    }
+
     std::string Finish() {
         EndPair();
         return std::move(text_);
@@ -281,7 +287,7 @@ std::string Unescape(std::string_view& text, char end) {
         if (c == '\\' && !text.empty())
             written.Add(TakeEscape(text));
         else
-            written.Add(static_cast<unsigned char>(c));
+            written.AddByte(c);
     }
     return written.Finish();
 }

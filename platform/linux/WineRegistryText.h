@@ -11,7 +11,8 @@ namespace marlo::platform {
 // The text form of keys and values in the registry files of a Wine prefix.
 
 /// Replaces the escapes in `text`, UTF-16 units among them, up to an unescaped `end`, by UTF-8.
-/// A surrogate without its partner becomes U+FFFD.
+/// A surrogate without its partner becomes U+FFFD. Bytes beyond ASCII, which Wine does not write,
+/// stay as they are. The result is never longer than what it stands for.
 /// @param text receives what is left from `end` on; nothing is left when there is no `end`.
 std::string Unescape(std::string_view& text, char end);
 
@@ -35,7 +36,8 @@ std::string Utf8FromUtf16(const std::vector<unsigned char>& bytes);
 /// UTF-8 as a byte string of the program: in the ANSI code page where all characters are in it.
 std::string NameFromUtf8(std::string_view utf8);
 
-/// The reverse of `NameFromUtf8`.
+/// A byte string of the program as UTF-8. What is UTF-8 already stays as it is, so a few names in the
+/// ANSI code page that look like UTF-8 do not come back from `NameFromUtf8`.
 std::string Utf8FromName(std::string_view name);
 
 struct WineValue {
@@ -44,7 +46,7 @@ struct WineValue {
 };
 
 /// Finds a value in the lines of a key, which are skipped where they are malformed or cut short.
-/// @param lines the lines after the key's own line; the last one counts only with its line end.
+/// @param lines the lines after the key's own line.
 /// @param name UTF-8.
 std::optional<WineValue> FindValue(std::string_view lines, std::string_view name);
 

@@ -169,4 +169,8 @@ void WindowsRegistry::CloseKey(RegistryKey key) {
     RegCloseKey(HandleOf(key));
 }
 
+std::string WindowsRegistry::LocalPath(const std::string& path) {
+    return SystemFromName(path);
+}
+
 }  // namespace marlo::platform

@@ -19,8 +19,9 @@ class WindowsRegistry final : public Registry {
                               std::uint32_t& length) override;
     void CloseKey(RegistryKey key) override;
 
-    /// Paths in the registry are this machine's own.
-    std::string LocalPath(const std::string& path) override { return path; }
+    /// Paths in the registry are this machine's own; this one is put back into the program's own
+    /// code page.
+    std::string LocalPath(const std::string& path) override;
 };
 
 }  // namespace marlo::platform

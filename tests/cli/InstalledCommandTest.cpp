@@ -210,6 +210,7 @@ TEST_F(OptionsCommandTest, AProgramThatIsNotThereIsRefused) {
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.error, "marlo-cli: options: " + folder.Path("gone") + ": no such program\n");
     EXPECT_EQ(Marlo({"options", "--csv-program", ""}).exitCode, 1);
+    EXPECT_EQ(Marlo({"options", "--csv-program", folder.Write("space ", "")}).exitCode, 1);
 }
 
 TEST_F(OptionsCommandTest, WithoutAProgramTheDesktopsOwnIsTaken) {

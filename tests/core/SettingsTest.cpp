@@ -107,6 +107,14 @@ TEST_F(SettingsTest, AMissingApplicationFolderGivesEmptyTextAndFalse) {
     EXPECT_FALSE(folder.Exists("gone"));
 }
 
+TEST_F(SettingsTest, AValueFitsWhenItComesBackAsItIs) {
+    EXPECT_TRUE(FitsSetting(""));
+    EXPECT_TRUE(FitsSetting(std::string(256, 'x')));
+    EXPECT_FALSE(FitsSetting(std::string(257, 'x')));
+    EXPECT_FALSE(FitsSetting("x "));
+    EXPECT_FALSE(FitsSetting(" x"));
+}
+
 TEST_F(SettingsTest, DatesHaveAFixedForm) {
     EXPECT_EQ(SettingDate(clock.Now()), "11-15-2026 03:10:22");
 }

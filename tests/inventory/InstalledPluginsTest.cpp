@@ -56,7 +56,7 @@ TEST_F(RefreshPluginsTest, AWholeRunDoesEverythingInOrder) {
                "Text2: CLSID Root", "Repaint", "Events", "Text2: Direct Show", "Repaint", "Events",
                "Text2: Active Movie", "Repaint", "Events",
                "Text1: Searching for installed VST Plugins...", "Text2: " + folder.Path("vst50"),
-               "Events", "EnableButtons", "ClearStatusBar"}));
+               "Events", "Events", "EnableButtons", "ClearStatusBar"}));
     EXPECT_EQ(Log(), "");
 }
 

@@ -124,8 +124,8 @@ TEST_F(ScanVSTFolderTest, AFolderThatMayNotBeOpenedIsPassedOver) {
 TEST_F(ScanVSTFolderTest, EachFolderIsShownBeforeItIsOpened) {
     folder.Write("vst/sub/Delay.dll", "");
     Scan(Vst());
-    EXPECT_EQ(window.events,
-              (Texts{"Text2: " + Vst(), "Events", "Text2: " + Vst("sub"), "Events"}));
+    EXPECT_EQ(window.events, (Texts{"Text2: " + Vst(), "Events", "Events", "Text2: " + Vst("sub"),
+                                    "Events", "Events"}));
 }
 
 TEST_F(ScanVSTFolderTest, AfterCancelNoFurtherFolderIsOpened) {
@@ -133,7 +133,7 @@ TEST_F(ScanVSTFolderTest, AfterCancelNoFurtherFolderIsOpened) {
     folder.Write("vst/a/Delay.dll", "");
     folder.Write("vst/b/Echo.dll", "");
     window.onEvents = [&, count = 0]() mutable {
-        if (++count == 2)
+        if (++count == 3)
             window.cancelTag = kCancelTag;
     };
     EXPECT_EQ(Lines(), Line("Reverb", "Reverb.dll"));

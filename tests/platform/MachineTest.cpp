@@ -37,17 +37,23 @@ TEST_F(DesktopTest, TheProgramForAnExtensionIsTheDesktopsOwn) {
     const std::string program = folder.Write("bin/Sheets & Co", "#!/bin/sh\n");
     std::filesystem::permissions(program, std::filesystem::perms::owner_all);
     folder.Write("data/mime/globs2",
-                 "50:text/x-marlo-sheet:*.sheet\n50:text/x-marlo-none:*.none\n");
+                 "50:text/x-marlo-sheet:*.sheet\n50:text/x-marlo-none:*.none\n"
+                 "50:text/x-marlo-boxed:*.boxed\n");
     folder.Write("data/applications/sheets.desktop",
                  "[Desktop Entry]\nType=Application\nName=Sheets\nExec=\"" + program +
                      "\" %F\nMimeType=text/x-marlo-sheet;\n");
+    folder.Write("data/applications/boxed.desktop",
+                 "[Desktop Entry]\nType=Application\nName=Boxed\nExec=env A=b " +
+                     folder.Path("bin/x") + " %F\nMimeType=text/x-marlo-boxed;\n");
     folder.Write("config/mimeapps.list",
-                 "[Default Applications]\ntext/x-marlo-sheet=sheets.desktop\n");
+                 "[Default Applications]\ntext/x-marlo-sheet=sheets.desktop\n"
+                 "text/x-marlo-boxed=boxed.desktop\n");
     setenv("XDG_DATA_HOME", folder.Path("data").c_str(), 1);
     setenv("XDG_DATA_DIRS", folder.Path("data").c_str(), 1);
     setenv("XDG_CONFIG_HOME", folder.Path("config").c_str(), 1);
     EXPECT_EQ(SystemDesktop().ProgramForExtension(".sheet"), program);
     EXPECT_EQ(SystemDesktop().ProgramForExtension(".none"), "");
+    EXPECT_EQ(SystemDesktop().ProgramForExtension(".boxed"), "") << "env is not the program";
 }
 
 TEST_F(DesktopTest, OtherFilesHaveNoDescription) {

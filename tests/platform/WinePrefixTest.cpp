@@ -276,6 +276,32 @@ TEST_F(WinePrefixTest, ListingBeyondTheEndOrIntoTooSmallABufferFails) {
     EXPECT_EQ(prefix.EnumerateKey(key, 0, buffer, length), kMoreData);
 }
 
+TEST_F(WinePrefixTest, APathOfBytesBeyondAsciiIsReadAsItIs) {
+    const std::string name(10'000, '\xE9');
+    WriteMachine("[K\\\\" + name + "] 1\n@=\"x\"\n[" + name + "]");
+    EXPECT_EQ(Subkeys(kLocalMachine, "K"), (Names{name}));
+    EXPECT_EQ(Value(kLocalMachine, "K\\" + name), "x\0"s);
+    EXPECT_EQ(Value(kLocalMachine, name), "(none)");
+}
+
+TEST_F(WinePrefixTest, AKeyThatIsMarkedAsALinkOftenIsOne) {
+    std::string marks;
+    for (int i = 0; i < 100'000; ++i)
+        marks += "#link\n";
+    const std::string link = Link("L", "\\Registry\\Machine\\K");
+    WriteMachine(link.substr(0, link.find("#link")) + marks + link.substr(link.find("#link")) +
+                 "[K] 1\n@=\"x\"\n");
+    EXPECT_EQ(Value(kLocalMachine, "L"), "x\0"s);
+}
+
+TEST_F(WinePrefixTest, ALinkThatLeadsTooDeepIsNone) {
+    std::string target = "\\Registry\\Machine";
+    for (int i = 0; i < 200'000; ++i)
+        target += "\\a";
+    WriteMachine(Link("L", target));
+    EXPECT_EQ(Value(kLocalMachine, "L"), "(none)");
+}
+
 TEST_F(WinePrefixTest, BrokenFilesAreReadWithoutHarm) {
     const std::string whole =
         kHeader + std::string(k64Bit) + Link("Software\\\\L", "\\Registry\\Machine\\Software\\K") +

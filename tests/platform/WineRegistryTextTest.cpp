@@ -46,6 +46,17 @@ TEST(UnescapeTest, TwoSurrogatesAreOneCharacterAndOneAloneIsReplaced) {
     EXPECT_EQ(Unescaped(R"("\xd83c")"), "\xEF\xBF\xBD");
 }
 
+TEST(UnescapeTest, BytesBeyondAsciiStayAsTheyAre) {
+    EXPECT_EQ(Unescaped("\"R\xE9verb Réverb\""), "R\xE9verb Réverb");
+}
+
+TEST(UnescapeTest, NothingBecomesLonger) {
+    for (const char* text : {"\\x80", "\\x8", "\\xffff", "\\xd83c", "\\377", "\\7", "\xFF", "\\"}) {
+        std::string_view rest = text;
+        EXPECT_LE(Unescape(rest, '"').size(), std::string_view(text).size()) << text;
+    }
+}
+
 TEST(UnescapeTest, WithoutAnEndNothingIsLeft) {
     std::string_view text = "cut short\\";
     EXPECT_EQ(Unescape(text, '"'), "cut short\\");
