@@ -36,8 +36,8 @@ std::string Utf8FromUtf16(const std::vector<unsigned char>& bytes);
 /// UTF-8 as a byte string of the program: in the ANSI code page where all characters are in it.
 std::string NameFromUtf8(std::string_view utf8);
 
-/// A byte string of the program as UTF-8. What is UTF-8 already stays as it is, so a few names in the
-/// ANSI code page that look like UTF-8 do not come back from `NameFromUtf8`.
+/// A byte string of the program as UTF-8. What is UTF-8 already stays as it is, so a few names in
+/// the ANSI code page that look like UTF-8 do not come back from `NameFromUtf8`.
 std::string Utf8FromName(std::string_view name);
 
 struct WineValue {
