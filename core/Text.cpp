@@ -30,11 +30,6 @@ std::optional<Utf8Form> FormOf(unsigned char lead) {
     return std::nullopt;
 }
 
-bool IsAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
 bool IsScalarValue(char32_t code) {
     return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF);
 }
@@ -142,14 +137,6 @@ std::u32string UpperCase(std::u32string text) {
 
 bool EqualIgnoringCase(std::string_view left, std::string_view right) {
     return UpperCase(Decode(left)) == UpperCase(Decode(right));
-}
-
-std::string NameFromUnicode(std::string_view name) {
-    if (IsAscii(name))
-        return std::string(name);
-    const auto characters = DecodeUtf8(name);
-    auto encoded = characters ? platform::EncodeAnsi(*characters) : std::nullopt;
-    return encoded ? std::move(*encoded) : std::string(name);
 }
 
 void SortIgnoringCase(std::vector<std::string>& names) {

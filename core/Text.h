@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/AnsiCodePage.h"
+
 namespace marlo {
 
 // A field of a result file, a path or a setting is a byte string and stays one. These routines
@@ -17,7 +19,7 @@ std::string EncodeUtf8(std::u32string_view text);
 
 /// A field as UTF-8 for display (see `Decode`).
 inline std::string DecodeToUtf8(std::string_view field) {
-    return EncodeUtf8(Decode(field));
+    return platform::Utf8FromName(field);
 }
 
 /// The upper-case form of a character of the Latin, Greek, Cyrillic and Armenian scripts where
@@ -29,10 +31,6 @@ std::u32string UpperCase(std::u32string text);
 
 /// Whether two fields are the same text but for the case of their characters.
 bool EqualIgnoringCase(std::string_view left, std::string_view right);
-
-/// A name that comes from Unicode (UTF-8), a file's for example, as the program writes names: in
-/// the ANSI code page when every character is in it, else as it is. Bytes that are not UTF-8 stay.
-std::string NameFromUnicode(std::string_view name);
 
 /// Sorts names by their characters without regard to case.
 void SortIgnoringCase(std::vector<std::string>& names);

@@ -10,6 +10,7 @@
 #include "core/RunTimeError.h"
 #include "core/Text.h"
 #include "inventory/DirectXPlugins.h"
+#include "platform/AnsiCodePage.h"
 #include "platform/FileSystem.h"
 
 namespace marlo {
@@ -61,7 +62,7 @@ class LibraryWalk {
         const std::size_t dot = fileName.rfind('.');
         if (dot == std::string::npos)
             throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-        const std::string name = NameFromUnicode(fileName.substr(0, dot));
+        const std::string name = platform::NameFromUtf8(fileName.substr(0, dot));
         if (!IsIncompatible(name + ";"))
             output_.WriteLine(QuotedFields({"VST", name, path}));
     }

@@ -22,10 +22,13 @@ std::vector<std::string> Folders(const Application& application) {
     return ReadVstFolders(application);
 }
 
+/// Writes the folders, unless they could not be read whole: those that were not would be lost.
 int Write(const Application& application, const TerminalWindow& window,
           const std::vector<std::string>& folders) {
+    if (window.SawFailure())
+        return kFailed;
     const bool written = WriteVstFolders(application, folders);
-    return written && !window.SawFailure() ? kDone : kFailed;
+    return written ? kDone : kFailed;
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/AnsiCodePage.h"
 #include "platform/FileSystem.h"
 
 namespace marlo::platform {

@@ -12,7 +12,7 @@
 namespace marlo::platform {
 
 /// One file of a Wine prefix's registry, "system.reg" or "user.reg", held in memory as it is on the
-/// disk, with an index of its keys; values are decoded when they are asked for. Takes about 1.2
+/// disk, with an index of its keys; values are decoded when they are asked for. Takes about 1.1
 /// times the file's size.
 ///
 /// Paths and names are UTF-8 and compared without regard to case.

@@ -1,13 +1,13 @@
 #include "platform/linux/WineRegistryText.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <utf8proc.h>
 #include <utility>
 
 #include "platform/AnsiCodePage.h"
 #include "platform/Registry.h"
+#include "platform/linux/Utf8.h"
 
 namespace marlo::platform {
 
@@ -15,48 +15,6 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 constexpr char kPathSeparator = '\\';
-
-bool IsAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
-void AppendUtf8(std::string& text, char32_t code) {
-    std::array<utf8proc_uint8_t, 4> bytes{};
-    const auto length = utf8proc_encode_char(static_cast<utf8proc_int32_t>(code), bytes.data());
-    text.append(bytes.begin(), bytes.begin() + length);
-}
-
-/// Decodes the first character of `text`.
-/// @param code untouched when this is not UTF-8.
-/// @return the character's length in bytes; not above 0 when this is not UTF-8.
-utf8proc_ssize_t DecodeUtf8(std::string_view text, utf8proc_int32_t& code) {
-    utf8proc_int32_t decoded = 0;
-    const auto length = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
-                                         static_cast<utf8proc_ssize_t>(text.size()), &decoded);
-    if (length > 0)
-        code = decoded;
-    return length;
-}
-
-/// Takes the first character off `text`; a byte that is not part of UTF-8 stands for itself.
-char32_t TakeCharacter(std::string_view& text) {
-    auto code = static_cast<utf8proc_int32_t>(static_cast<unsigned char>(text.front()));
-    const auto length = code < 0x80 ? 1 : DecodeUtf8(text, code);
-    text.remove_prefix(static_cast<std::size_t>(std::max<utf8proc_ssize_t>(length, 1)));
-    return static_cast<char32_t>(code);
-}
-
-bool IsUtf8(std::string_view text) {
-    while (!text.empty()) {
-        utf8proc_int32_t code = 0;
-        const auto length = DecodeUtf8(text, code);
-        if (length <= 0)
-            return false;
-        text.remove_prefix(static_cast<std::size_t>(length));
-    }
-    return true;
-}
 
 /// Collects UTF-16 units as UTF-8.
 class UnitWriter {
@@ -340,25 +298,6 @@ std::string Utf8FromUtf16(const std::vector<unsigned char>& bytes) {
     for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
         text.Add(static_cast<char32_t>(bytes[i] | (bytes[i + 1] << 8U)));
     return text.Finish();
-}
-
-std::string NameFromUtf8(std::string_view utf8) {
-    if (IsAscii(utf8))
-        return std::string(utf8);
-    std::u32string characters;
-    for (std::string_view rest = utf8; !rest.empty();)
-        characters += TakeCharacter(rest);
-    auto name = EncodeAnsi(characters);
-    return name ? std::move(*name) : std::string(utf8);
-}
-
-std::string Utf8FromName(std::string_view name) {
-    if (IsUtf8(name))
-        return std::string(name);
-    std::string utf8;
-    for (const char32_t character : DecodeAnsi(name))
-        AppendUtf8(utf8, character);
-    return utf8;
 }
 
 std::optional<WineValue> FindValue(std::string_view lines, std::string_view name) {

@@ -33,13 +33,6 @@ std::optional<std::string_view> RestBelow(std::string_view path, std::string_vie
 /// UTF-16, low bytes first, as UTF-8. An odd last byte is left out.
 std::string Utf8FromUtf16(const std::vector<unsigned char>& bytes);
 
-/// UTF-8 as a byte string of the program: in the ANSI code page where all characters are in it.
-std::string NameFromUtf8(std::string_view utf8);
-
-/// A byte string of the program as UTF-8. What is UTF-8 already stays as it is, so a few names in
-/// the ANSI code page that look like UTF-8 do not come back from `NameFromUtf8`.
-std::string Utf8FromName(std::string_view name);
-
 struct WineValue {
     std::int32_t type = 0;
     std::vector<unsigned char> data;  ///< texts as the program's bytes, with their final NUL

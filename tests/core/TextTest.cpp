@@ -82,13 +82,6 @@ TEST(TextTest, ALeadingNumberIsReadAsFarAsItGoes) {
     EXPECT_EQ(LeadingNumber(""), 0);
 }
 
-TEST(TextTest, ANameFromUnicodeIsInTheAnsiPageWhereItFits) {
-    EXPECT_EQ(NameFromUnicode("Reverb"), "Reverb");
-    EXPECT_EQ(NameFromUnicode("Réverb"), "R\xE9verb");
-    EXPECT_EQ(NameFromUnicode("Réverb 曲"), "Réverb 曲");
-    EXPECT_EQ(NameFromUnicode("R\xE9verb"), "R\xE9verb") << "no UTF-8";
-}
-
 TEST(TextTest, NamesAreSortedByTheirCharactersWithoutRegardToCase) {
     std::vector<std::string> names = {"b", "A", "_", "É", "a", "é1", "\xE9\x30"};
     SortIgnoringCase(names);

@@ -25,5 +25,21 @@ TEST(AnsiCodePageTest, ATextWithAnyOtherCharacterDoesNotFit) {
     EXPECT_FALSE(EncodeAnsi(U"\x100"));
 }
 
+TEST(NameTest, AUnicodeNameIsInThePageWhereItFits) {
+    EXPECT_EQ(NameFromUtf8("Reverb"), "Reverb");
+    EXPECT_EQ(NameFromUtf8("Réverb"), "R\xE9verb");
+    EXPECT_EQ(NameFromUtf8("Réverb 曲"), "Réverb 曲");
+}
+
+TEST(NameTest, BytesThatAreNotUtf8Stay) {
+    EXPECT_EQ(NameFromUtf8("R\xE9verb é"), "R\xE9verb é");
+}
+
+TEST(NameTest, ANameBecomesUtf8Again) {
+    EXPECT_EQ(Utf8FromName("Reverb"), "Reverb");
+    EXPECT_EQ(Utf8FromName("R\xE9verb"), "Réverb");
+    EXPECT_EQ(Utf8FromName("Réverb 曲"), "Réverb 曲");
+}
+
 }  // namespace
 }  // namespace marlo::platform

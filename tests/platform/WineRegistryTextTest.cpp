@@ -96,13 +96,6 @@ TEST(RestBelowTest, ThePathBelowAKeyIsFoundWithoutRegardToCase) {
     EXPECT_FALSE(RestBelow("Soft", "Software"));
 }
 
-TEST(NameTest, AUnicodeNameIsInTheAnsiPageWhereItFits) {
-    EXPECT_EQ(NameFromUtf8("Réverb"), "R\xE9verb");
-    EXPECT_EQ(NameFromUtf8("Réverb 曲"), "Réverb 曲");
-    EXPECT_EQ(Utf8FromName("R\xE9verb"), "Réverb");
-    EXPECT_EQ(Utf8FromName("Réverb 曲"), "Réverb 曲");
-}
-
 TEST(FindValueTest, ATextEndsWithANul) {
     const auto value = FindValue("\"FriendlyName\"=\"R\\xe9verb\"\n", "friendlyname");
     ASSERT_TRUE(value);
