@@ -18,39 +18,39 @@ LineReader::LineReader(const std::string& path) {
     ThrowOn(error);
 }
 
-bool LineReader::Next(std::string& line) {
+bool LineReader::Next(std::string_view& line) {
     std::size_t searched = 0;
-    std::size_t end = buffer_.find('\n', position_);
-    while (end == std::string::npos) {
-        searched = buffer_.size() - position_;
+    for (;;) {
+        const std::string_view unread = std::string_view(buffer_).substr(begin_, end_ - begin_);
+        const std::size_t length = unread.find('\n', searched);
+        if (length != std::string_view::npos) {
+            line = unread.substr(0, length);
+            begin_ += length + 1;
+            if (line.ends_with('\r'))
+                line.remove_suffix(1);
+            return true;
+        }
+        searched = unread.size();
         if (!ReadMore())
             break;
-        end = buffer_.find('\n', searched);
     }
-    const bool hasEnd = end != std::string::npos;
-    if (!hasEnd && position_ == buffer_.size())
-        return false;
-    if (!hasEnd)
-        end = buffer_.size();
-    line.assign(buffer_, position_, end - position_);
-    position_ = end + (hasEnd ? 1 : 0);
-    if (hasEnd && line.ends_with('\r'))
-        line.pop_back();
-    return true;
+    line = std::string_view(buffer_).substr(begin_, end_ - begin_);
+    begin_ = end_;
+    return !line.empty();
 }
 
-/// Reads on, and moves what is left in the buffer to its front.
+/// Reads on, behind what is left in the buffer, which moves to its front.
 /// @return false at the end of the file.
 bool LineReader::ReadMore() {
-    buffer_.erase(0, position_);
-    position_ = 0;
-    const std::size_t kept = buffer_.size();
-    buffer_.resize(kept + kReadSize);
+    buffer_.erase(0, begin_);
+    end_ -= begin_;
+    begin_ = 0;
+    buffer_.resize(end_ + kReadSize);
     std::error_code error;
     const std::size_t count = file_.ReadAt(
-        offset_, {reinterpret_cast<unsigned char*>(buffer_.data()) + kept, kReadSize}, error);
+        offset_, {reinterpret_cast<unsigned char*>(buffer_.data()) + end_, kReadSize}, error);
     offset_ += count;
-    buffer_.resize(kept + count);
+    end_ += count;
     ThrowOn(error);
     return count > 0;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "core/Application.h"
@@ -36,6 +37,19 @@ class MainWindow {
     virtual void Repaint() = 0;
     /// Lets pending events run, so that the window stays alive and Cancel can be pressed.
     virtual void LetEventsRun() = 0;
+
+    /// Shows the hourglass as the mouse pointer, or the usual one again.
+    virtual void SetHourglass(bool isShown) = 0;
+
+    /// Fits each column of the result list to the wider of its header and its cells.
+    virtual void AutoSizeListViewColumns() = 0;
+    /// Shades the result list's rows in two colours, in turn (see reports/Ledger.h). Its failures
+    /// are its own.
+    /// @param bar1Colour the first row's; blue in the high byte, red in the low one.
+    /// @param bar2Colour the second row's.
+    /// @param sizingKind what decides the height of a row.
+    virtual void SetListViewLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
+                                   std::int32_t sizingKind) = 0;
 
     /// The mark on the Cancel button: "Cancel" once it was pressed, empty before.
     virtual std::string CancelTag() const = 0;

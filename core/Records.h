@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
@@ -29,5 +30,25 @@ std::string QuotedFields(std::initializer_list<std::string_view> values);
 ///         any comma has no first field. Nothing at all when there is no room for the fields.
 std::vector<std::string> SplitRecord(const Application& application, std::string_view record,
                                      std::int32_t fieldCount);
+
+/// The fields of one record after another, as `SplitRecord` gives them, without making texts of
+/// those that stand in the record as they are.
+class RecordFields {
+  public:
+    /// @param fieldCount how many fields a record should have.
+    /// @throws RunTimeError when it is negative.
+    RecordFields(const Application& application, std::int32_t fieldCount);
+
+    /// Splits a record, which has to stay for as long as its fields are looked at.
+    void Split(std::string_view record);
+
+    /// A field of the record, 0-based.
+    std::string_view operator[](std::size_t index);
+
+  private:
+    const Application& application_;
+    std::vector<std::string_view> raw_;  ///< with the quotes and spaces around them
+    std::vector<std::string> cleaned_;   ///< those that are not a part of the record
+};
 
 }  // namespace marlo

@@ -73,6 +73,8 @@ std::string DescriptionOf(ErrorNumber number) {
             return "Path/File access error";
         case ErrorNumber::PathNotFound:
             return "Path not found";
+        case ErrorNumber::ObjectNotSet:
+            return "Object variable not set";
         case ErrorNumber::KeyNotUnique:
             return "Key is not unique in collection";
     }

@@ -22,6 +22,7 @@ enum class ErrorNumber {
     PermissionDenied = 70,
     PathFileAccess = 75,
     PathNotFound = 76,
+    ObjectNotSet = 91,
     KeyNotUnique = 35602,
 };
 

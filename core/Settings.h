@@ -15,10 +15,12 @@ namespace setting {
 inline constexpr std::int16_t kLastFolder = 1;         ///< the last folder that was searched
 inline constexpr std::int16_t kIncludeSubfolders = 3;  ///< "1" or "0"
 inline constexpr std::int16_t kCsvProgram = 4;         ///< path of the program for CSV files
-inline constexpr std::int16_t kLastSearch = 11;        ///< see `SettingDate`
-inline constexpr std::int16_t kLastInventory = 15;     ///< see `SettingDate`
-inline constexpr std::int16_t kIgnoreDirectX = 20;     ///< "1" or "0"
-inline constexpr std::int16_t kIgnoreOff = 21;         ///< "1" or "0"
+inline constexpr std::int16_t kSearchType = 9;      ///< 0 exact match, 1 starts, 2 ends, 3 contains
+inline constexpr std::int16_t kIgnoreCase = 10;     ///< 1 or 0
+inline constexpr std::int16_t kLastSearch = 11;     ///< see `SettingDate`
+inline constexpr std::int16_t kLastInventory = 15;  ///< see `SettingDate`
+inline constexpr std::int16_t kIgnoreDirectX = 20;  ///< "1" or "0"
+inline constexpr std::int16_t kIgnoreOff = 21;      ///< "1" or "0"
 inline constexpr std::int16_t kFirstVstFolder = 50;  ///< a folder a record, to the first empty one
 }  // namespace setting
 

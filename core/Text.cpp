@@ -135,8 +135,18 @@ std::u32string UpperCase(std::u32string text) {
     return text;
 }
 
+std::string UpperCaseUtf8(std::string_view field) {
+    std::string upper(field);
+    bool isAscii = true;
+    for (char& c : upper) {
+        isAscii = isAscii && static_cast<unsigned char>(c) < 0x80;
+        c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    }
+    return isAscii ? upper : EncodeUtf8(UpperCase(Decode(field)));
+}
+
 bool EqualIgnoringCase(std::string_view left, std::string_view right) {
-    return UpperCase(Decode(left)) == UpperCase(Decode(right));
+    return UpperCaseUtf8(left) == UpperCaseUtf8(right);
 }
 
 void SortIgnoringCase(std::vector<std::string>& names) {

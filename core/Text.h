@@ -29,6 +29,9 @@ char32_t UpperCase(char32_t character);
 /// `text` in upper case, character by character.
 std::u32string UpperCase(std::u32string text);
 
+/// A field in upper case, as UTF-8.
+std::string UpperCaseUtf8(std::string_view field);
+
 /// Whether two fields are the same text but for the case of their characters.
 bool EqualIgnoringCase(std::string_view left, std::string_view right);
 

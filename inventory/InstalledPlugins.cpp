@@ -5,9 +5,7 @@
 
 #include "core/ErrorLog.h"
 #include "core/Files.h"
-#include "core/LineReader.h"
 #include "core/LineWriter.h"
-#include "core/Records.h"
 #include "core/RunTimeError.h"
 #include "core/Settings.h"
 #include "inventory/DirectXPlugins.h"
@@ -77,28 +75,19 @@ InventorySummary RefreshPlugins(const Application& application, MainWindow& wind
     return summary;
 }
 
-bool InstalledPlugins::PluginIsInstalled(const std::string& name) {
-    bool isInstalled = false;
-    RunGuarded(application_, "PluginIsInstalled", [&] {
-        ReadIfChanged();
-        isInstalled = names_.contains(name);
-    });
-    return isInstalled;
-}
+InstalledPlugins::InstalledPlugins(const Application& application)
+    : application_(application),
+      list_(application, "\\resultfiles\\installedplugins.csv",
+            [](RecordReader& record, std::string& name) {
+                name = record[1];
+                return true;
+            }) {}
 
-void InstalledPlugins::ReadIfChanged() {
-    const std::string path = ApplicationPath(application_, "\\resultfiles\\installedplugins.csv");
-    std::error_code error;
-    const auto stamp = platform::StampOf(path, error);
-    if (!error && stamp_ == stamp)
-        return;
-    stamp_.reset();
-    names_.clear();
-    LineReader file(path);
-    for (std::string line; file.Next(line);)
-        names_.insert(std::move(SplitRecord(application_, line, 3).at(1)));
-    if (!error && platform::IsSettled(stamp))
-        stamp_ = stamp;
+bool InstalledPlugins::PluginIsInstalled(std::string_view name) {
+    bool isInstalled = false;
+    RunGuarded(application_, "PluginIsInstalled",
+               [&] { isInstalled = list_.Find(name).has_value(); });
+    return isInstalled;
 }
 
 }  // namespace marlo

@@ -1,13 +1,11 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
-#include <string>
-#include <unordered_set>
+#include <string_view>
 
 #include "core/Application.h"
 #include "core/MainWindow.h"
-#include "platform/FileSystem.h"
+#include "core/RecordIndex.h"
 
 namespace marlo {
 
@@ -35,25 +33,21 @@ struct InventorySummary {
 /// status boxes cleared.
 InventorySummary RefreshPlugins(const Application& application, MainWindow& window);
 
-/// Answers which plug-ins are installed, from "\resultfiles\installedplugins.csv". The file is read
-/// at the first question, and again when it has changed.
+/// Answers for one report or search which plug-ins are installed, from
+/// "\resultfiles\installedplugins.csv". The file is read once, as far as the questions need.
 class InstalledPlugins {
   public:
-    explicit InstalledPlugins(const Application& application) : application_(application) {}
+    explicit InstalledPlugins(const Application& application);
 
     /// Whether a plug-in of that name is installed, whatever its type. Case and spaces count.
     /// @return false also when the file is missing or cannot be read, which is logged under
-    ///         "PluginIsInstalled" each time. A line that has too few fields is logged when the
-    ///         file is read.
-    bool PluginIsInstalled(const std::string& name);
+    ///         "PluginIsInstalled" each time. A line that has too few fields is logged when it is
+    ///         read.
+    bool PluginIsInstalled(std::string_view name);
 
   private:
-    void ReadIfChanged();
-
     const Application& application_;
-    std::unordered_set<std::string> names_;
-    /// The file that the names are from; nothing when it may have changed since, unnoticed.
-    std::optional<platform::FileStamp> stamp_;
+    RecordIndex list_;
 };
 
 }  // namespace marlo

@@ -8,6 +8,20 @@
 
 namespace marlo::platform {
 
+/// Asks the shell to do something with a file, folder or program.
+struct ShellRequest {
+    std::string verb = "Open";
+    std::string file{};        ///< a document, a folder, a program, or "explorer.exe"
+    std::string parameters{};  ///< a program's one argument; empty for none
+    std::string folder = "0";  ///< the working folder; one that does not exist does not count
+    int showState = kShowNormal;
+
+    static constexpr int kShowNormal = 1;
+};
+
+/// The shell's answers up to this one are failures.
+inline constexpr int kLastShellFailure = 32;
+
 /// What the desktop's shell knows about files.
 class Desktop {
   public:
@@ -31,6 +45,19 @@ class Desktop {
     /// @return the full path of an executable, empty when no program is known; nothing at all
     ///         where the registry holds the associations.
     virtual std::optional<std::string> ProgramForExtension(const std::string& extension) const = 0;
+
+    /// Starts a program, or opens a document or folder with the program for it.
+    ///
+    /// Where the shell has no verbs, a program is started, anything else opened, and the working
+    /// folder and show state do not count. "explorer.exe" stands for the desktop's file manager.
+    /// No part of the request is parsed as a command.
+    ///
+    /// @return more than `kLastShellFailure` when it was done, else a number that tells why not.
+    virtual int ShellExecute(const ShellRequest& request) const = 0;
+
+    /// The short (8.3) form of a path where the platform has one, else the path itself.
+    /// @return "" for a path that does not exist.
+    virtual std::string ShortPath(const std::string& path) const = 0;
 };
 
 }  // namespace marlo::platform

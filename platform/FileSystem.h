@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <ctime>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -11,23 +13,6 @@ namespace marlo::platform {
 
 /// Names that stay the same for one file or folder whatever path leads to it: device and number.
 using FileIdentity = std::pair<std::uint64_t, std::uint64_t>;
-
-/// What tells one version of a file from another. Times in nanoseconds.
-struct FileStamp {
-    FileIdentity identity;
-    std::uint64_t size = 0;
-    std::int64_t modified = 0;
-    std::int64_t changed = 0;  ///< the last change of the file or of what the system keeps about it
-
-    bool operator==(const FileStamp&) const = default;
-};
-
-/// The stamp of the file at `path`.
-FileStamp StampOf(const std::string& path, std::error_code& error);
-
-/// Whether the file's next change will show in its stamp. Right after a change another one may not,
-/// since the file system's clock ticks slowly.
-bool IsSettled(const FileStamp& stamp);
 
 /// What a folder's listing tells of a file, which saves looking at the file itself.
 enum class FileKind { Unknown, Regular };
@@ -78,12 +63,19 @@ bool IsFile(const std::string& path, std::error_code& error);
 /// Whether a folder exists at `path`. A missing folder or path is an answer, no error.
 bool IsFolder(const std::string& path, std::error_code& error);
 
+/// The local date and time of the last change of the file at `path`. A folder is no file.
+std::tm LastModified(const std::string& path, std::error_code& error);
+
 /// Deletes the file at `path`.
 void RemoveFile(const std::string& path, std::error_code& error);
 
 /// Gives the file at `from` the path `to`, in one step: whoever looks at `to` sees the old file or
 /// the new one. Both paths are on one volume.
 void MoveIntoPlace(const std::string& from, const std::string& to, std::error_code& error);
+
+/// What stands in front of the last separator of `path`; nothing when it has none. Paths from a
+/// Windows machine have "\" between their names wherever the program runs.
+std::optional<std::string> ParentPath(const std::string& path);
 
 /// `path` from the root on, without "." steps and doubled separators, and without a separator at
 /// its end. Links stay as they are, except that a path with ".." steps is resolved through them.

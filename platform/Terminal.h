@@ -13,6 +13,10 @@ bool IsTerminal(Stream stream);
 /// The width of the terminal behind `stream` in character cells; 80 when it does not tell.
 int TerminalWidth(Stream stream);
 
+/// Whether the stream is connected to a terminal that shows colours, and the user wants them
+/// (the environment variable NO_COLOR is not set).
+bool ShowsColours(Stream stream);
+
 /// From now on, the first interrupt key (Ctrl-C) is noted rather than ending the program; a second
 /// one ends it. Where interrupts are ignored, they stay so.
 void NoteInterrupts();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <utility>
 
@@ -29,6 +30,10 @@ class TerminalWindow final : public MainWindow {
     void ClearStatusBar() override;
     void Repaint() override;
     void LetEventsRun() override { Repaint(); }
+    void SetHourglass(bool /*isShown*/) override {}
+    void AutoSizeListViewColumns() override {}
+    void SetListViewLedger(std::int32_t /*bar1Colour*/, std::int32_t /*bar2Colour*/,
+                           std::int32_t /*sizingKind*/) override {}
     std::string CancelTag() const override;
     void SetCancelTag(const std::string& tag) override;
     void DisableButtons() override {}

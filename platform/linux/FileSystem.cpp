@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
@@ -27,10 +26,6 @@ bool ReadStatus(const std::string& path, struct stat& status, std::error_code& e
     if (errno != ENOENT && errno != ENOTDIR)
         error = PosixError();
     return false;
-}
-
-std::int64_t Nanoseconds(const timespec& time) {
-    return time.tv_sec * std::int64_t{1'000'000'000} + time.tv_nsec;
 }
 
 bool IsFolderEntry(int folder, const dirent& entry) {
@@ -93,22 +88,6 @@ FolderEntries Folder::Entries(std::error_code& error) const {
     }
 }
 
-FileStamp StampOf(const std::string& path, std::error_code& error) {
-    struct stat status {};
-    error = stat(path.c_str(), &status) == 0 ? std::error_code() : PosixError();
-    return {.identity = {status.st_dev, status.st_ino},
-            .size = static_cast<std::uint64_t>(status.st_size),
-            .modified = Nanoseconds(status.st_mtim),
-            .changed = Nanoseconds(status.st_ctim)};
-}
-
-bool IsSettled(const FileStamp& stamp) {
-    constexpr std::int64_t longestTick = 100'000'000;
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    return Nanoseconds(now) - stamp.changed > longestTick;
-}
-
 std::string JoinPath(std::string_view folder, std::string_view name) {
     std::string path(folder);
     if (!path.ends_with('/'))
@@ -126,12 +105,31 @@ bool IsFolder(const std::string& path, std::error_code& error) {
     return ReadStatus(path, status, error) && S_ISDIR(status.st_mode);
 }
 
+std::tm LastModified(const std::string& path, std::error_code& error) {
+    struct stat status {};
+    std::tm moment{};
+    const bool isThere = ReadStatus(path, status, error) && !S_ISDIR(status.st_mode);
+    if (!isThere && !error)
+        error = std::make_error_code(std::errc::no_such_file_or_directory);
+    if (isThere && localtime_r(&status.st_mtime, &moment) == nullptr)
+        error = PosixError();
+    return moment;
+}
+
 void RemoveFile(const std::string& path, std::error_code& error) {
     error = unlink(path.c_str()) == 0 ? std::error_code() : PosixError();
 }
 
 void MoveIntoPlace(const std::string& from, const std::string& to, std::error_code& error) {
     error = rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : PosixError();
+}
+
+std::optional<std::string> ParentPath(const std::string& path) {
+    // In a path from the root on, a "\\" is a character like any other.
+    const std::size_t separator = path.find_last_of(path.starts_with('/') ? "/" : "/\\");
+    if (separator == std::string::npos)
+        return std::nullopt;
+    return separator == 0 ? path.substr(0, 1) : path.substr(0, separator);
 }
 
 std::string FullPath(const std::string& path, std::error_code& error) {

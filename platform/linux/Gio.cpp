@@ -1,5 +1,6 @@
 #include "platform/linux/Gio.h"
 
+#include <array>
 #include <dlfcn.h>
 #include <filesystem>
 #include <gio/gio.h>
@@ -19,6 +20,9 @@ class Gio {
                     Find(library, "g_app_info_get_commandline", commandOf) &&
                     Find(library, "g_shell_parse_argv", parseCommand) &&
                     Find(library, "g_find_program_in_path", findProgram) &&
+                    Find(library, "g_filename_to_uri", uriOf) &&
+                    Find(library, "g_app_info_launch_default_for_uri", openUri) &&
+                    Find(library, "g_spawn_async", start) &&
                     Find(library, "g_object_unref", release) && Find(library, "g_free", free) &&
                     Find(library, "g_strfreev", freeAll);
     }
@@ -30,6 +34,9 @@ class Gio {
     decltype(&g_app_info_get_commandline) commandOf = nullptr;
     decltype(&g_shell_parse_argv) parseCommand = nullptr;
     decltype(&g_find_program_in_path) findProgram = nullptr;
+    decltype(&g_filename_to_uri) uriOf = nullptr;
+    decltype(&g_app_info_launch_default_for_uri) openUri = nullptr;
+    decltype(&g_spawn_async) start = nullptr;
     decltype(&g_object_unref) release = nullptr;
     decltype(&g_free) free = nullptr;
     decltype(&g_strfreev) freeAll = nullptr;
@@ -43,6 +50,11 @@ class Gio {
 
     bool isLoaded_ = false;
 };
+
+const Gio& LoadedGio() {
+    static const Gio gio;
+    return gio;
+}
 
 using Text = std::unique_ptr<char, decltype(&g_free)>;
 
@@ -64,7 +76,7 @@ std::string ProgramOf(const Gio& gio, const char* command) {
 }  // namespace
 
 std::string GioProgramForExtension(const std::string& extension) {
-    static const Gio gio;
+    const Gio& gio = LoadedGio();
     if (!gio.IsLoaded())
         return {};
     const std::string fileName = "file" + extension;
@@ -72,6 +84,24 @@ std::string GioProgramForExtension(const std::string& extension) {
     const std::unique_ptr<GAppInfo, decltype(&g_object_unref)> application(
         gio.defaultForType(type.get(), FALSE), gio.release);
     return application ? ProgramOf(gio, gio.commandOf(application.get())) : std::string();
+}
+
+bool GioOpen(const std::string& path) {
+    const Gio& gio = LoadedGio();
+    if (!gio.IsLoaded())
+        return false;
+    const Text uri(gio.uriOf(path.c_str(), nullptr, nullptr), gio.free);
+    return uri && gio.openUri(uri.get(), nullptr, nullptr) != FALSE;
+}
+
+bool GioStart(const std::string& program, const std::string& argument) {
+    const Gio& gio = LoadedGio();
+    std::string programWord = program;
+    std::string argumentWord = argument;
+    std::array<char*, 3> words = {programWord.data(),
+                                  argument.empty() ? nullptr : argumentWord.data(), nullptr};
+    return gio.IsLoaded() && gio.start(nullptr, words.data(), nullptr, G_SPAWN_DEFAULT, nullptr,
+                                       nullptr, nullptr, nullptr) != FALSE;
 }
 
 }  // namespace marlo::platform

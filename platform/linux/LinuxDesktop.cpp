@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "platform/linux/Gio.h"
 #include "platform/linux/PosixError.h"
@@ -30,6 +31,21 @@ std::string DescriptionOf(const std::string& path) {
     return EndsWithIgnoringCase(path, ".dll") ? "Application Extension" : "";
 }
 
+// The shell's answers.
+constexpr int kFileNotFound = 2;
+constexpr int kAccessDenied = 5;
+constexpr int kNoAssociation = 31;
+constexpr int kDone = kLastShellFailure + 1;
+
+/// The type and permissions of what is at `path`, if there is anything.
+std::optional<mode_t> ModeOf(const std::string& path) {
+    struct stat status {};
+    // A NUL byte ends a path for the system, so one that holds it names nothing.
+    if (path.find('\0') != std::string::npos || stat(path.c_str(), &status) != 0)
+        return std::nullopt;
+    return status.st_mode;
+}
+
 }  // namespace
 
 std::string LinuxDesktop::FileTypeDescription(const std::string& path, FileKind kind,
@@ -50,6 +66,24 @@ std::string LinuxDesktop::FileTypeDescription(const std::string& path, FileKind 
 
 std::optional<std::string> LinuxDesktop::ProgramForExtension(const std::string& extension) const {
     return GioProgramForExtension(extension);
+}
+
+int LinuxDesktop::ShellExecute(const ShellRequest& request) const {
+    const bool isFolder = request.file == "explorer.exe";
+    const std::string& path = isFolder ? request.parameters : request.file;
+    const auto mode = ModeOf(path);
+    if (!mode || (isFolder && !S_ISDIR(*mode)))
+        return kFileNotFound;
+    // On some volumes every file may be executed; a project is never a program.
+    const bool isProgram =
+        S_ISREG(*mode) && DescriptionOf(path).empty() && access(path.c_str(), X_OK) == 0;
+    if (isProgram)
+        return GioStart(path, request.parameters) ? kDone : kAccessDenied;
+    return GioOpen(path) ? kDone : kNoAssociation;
+}
+
+std::string LinuxDesktop::ShortPath(const std::string& path) const {
+    return ModeOf(path) ? path : "";
 }
 
 }  // namespace marlo::platform

@@ -14,6 +14,11 @@ class LinuxDesktop final : public Desktop {
     /// By GIO, which knows the desktop's mimeapps.list and .desktop files; empty where it is not
     /// installed.
     std::optional<std::string> ProgramForExtension(const std::string& extension) const override;
+
+    /// By GIO; nothing can be opened or started where it is not installed.
+    int ShellExecute(const ShellRequest& request) const override;
+
+    std::string ShortPath(const std::string& path) const override;
 };
 
 }  // namespace marlo::platform

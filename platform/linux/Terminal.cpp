@@ -1,7 +1,9 @@
 #include "platform/Terminal.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <poll.h>
+#include <string_view>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -30,6 +32,11 @@ int HandleOf(Stream stream) {
     return STDERR_FILENO;
 }
 
+std::string_view Variable(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
 /// Waits until there is something to read. An interrupt that comes at any time, also right before
 /// the wait, ends it.
 /// @return whether there is something to read.
@@ -50,6 +57,12 @@ bool WaitForInput() {
 
 bool IsTerminal(Stream stream) {
     return isatty(HandleOf(stream)) == 1;
+}
+
+bool ShowsColours(Stream stream) {
+    const std::string_view unwanted = Variable("NO_COLOR");
+    const std::string_view type = Variable("TERM");
+    return IsTerminal(stream) && unwanted.empty() && !type.empty() && type != "dumb";
 }
 
 int TerminalWidth(Stream stream) {

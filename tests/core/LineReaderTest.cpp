@@ -1,4 +1,5 @@
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -17,8 +18,8 @@ class LineReaderTest : public testing::Test {
     Lines Read(const std::string& bytes) const {
         LineReader reader(folder.Write("file", bytes));
         Lines lines;
-        for (std::string line; reader.Next(line);)
-            lines.push_back(line);
+        for (std::string_view line; reader.Next(line);)
+            lines.emplace_back(line);
         return lines;
     }
 

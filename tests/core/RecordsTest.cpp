@@ -75,6 +75,37 @@ TEST_F(SplitRecordTest, BytesAboveAsciiPassThrough) {
     EXPECT_EQ(SplitRecord(application, "\"R\xE9verb\",x", 2), (Fields{"R\xE9verb", "x"}));
 }
 
+class RecordFieldsTest : public test::ApplicationTest {
+  protected:
+    RecordFields fields{application, 2};
+};
+
+TEST_F(RecordFieldsTest, FieldsThatNeedNoChangeAreThoseOfTheRecord) {
+    const std::string record = "\"a b\",\"c\"";
+    fields.Split(record);
+    EXPECT_EQ(fields[0], "a b");
+    EXPECT_EQ(fields[0].data(), record.data() + 1);
+    EXPECT_EQ(fields[1], "c");
+}
+
+TEST_F(RecordFieldsTest, EachFieldIsThatOfSplitRecord) {
+    for (const std::string record :
+         {"\"a\",\"b\"", "a,b", " \" a \" ,\"b\"\"", "\"\",\"", "\"a,\"b", ",", "\"a\"x\",b,c"}) {
+        fields.Split(record);
+        const auto expected = SplitRecord(application, record, 2);
+        EXPECT_EQ(fields[0], expected[0]) << record;
+        EXPECT_EQ(fields[1], expected[1]) << record;
+    }
+}
+
+TEST_F(RecordFieldsTest, AMissingFieldIsEmptyAndNotTheOneOfTheRecordBefore) {
+    fields.Split("a,b");
+    fields.Split("c");
+    EXPECT_EQ(fields[0], "");
+    EXPECT_EQ(fields[1], "");
+    EXPECT_EQ(Log(), LogLine("SplitRecord: c 2", 5, "Invalid procedure call"));
+}
+
 TEST(QuotedTest, FieldsAreJoinedByCommas) {
     EXPECT_EQ(QuotedFields({"a", "", "c,d"}), R"("a","","c,d")");
 }

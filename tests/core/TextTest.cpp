@@ -63,6 +63,13 @@ TEST(TextTest, UpperCaseLeavesCapitals) {
     EXPECT_EQ(UpperCase(U"AZ\u00C9\u0100\u0139\u0391\u0401"), U"AZ\u00C9\u0100\u0139\u0391\u0401");
 }
 
+TEST(TextTest, AFieldInUpperCaseIsUtf8) {
+    EXPECT_EQ(UpperCaseUtf8("Tape Delay {z}"), "TAPE DELAY {Z}");
+    EXPECT_EQ(UpperCaseUtf8("r\xE9verb"), "RÉVERB");
+    EXPECT_EQ(UpperCaseUtf8("réverb ß"), "RÉVERB ß");
+    EXPECT_EQ(UpperCaseUtf8(""), "");
+}
+
 TEST(TextTest, FieldsAreEqualIgnoringTheCaseOfTheirCharacters) {
     EXPECT_TRUE(EqualIgnoringCase("R\xE9verb", "R\xC3\x89VERB"));
     EXPECT_FALSE(EqualIgnoringCase("Reverb", "R\xE9verb"));

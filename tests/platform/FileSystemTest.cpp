@@ -1,6 +1,11 @@
 #include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <ctime>
+#include <fcntl.h>
 #include <filesystem>
 #include <string>
+#include <sys/stat.h>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -99,24 +104,61 @@ TEST_F(FileSystemTest, TheProgramsFolderHoldsTheRunningProgram) {
     EXPECT_TRUE(IsFile(JoinPath(ProgramFolder(), MARLO_TEST_PROGRAM), error));
 }
 
-TEST_F(FileSystemTest, AFilesStampChangesWithTheFileAndStaysWithoutAChange) {
-    const std::string path = folder.Write("file", "1");
-    const FileStamp first = StampOf(path, error);
-    EXPECT_EQ(StampOf(path, error), first);
-    folder.Write("file", "12");
-    EXPECT_NE(StampOf(path, error), first);
-    EXPECT_FALSE(error);
-    StampOf(folder.Path("gone"), error);
-    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+/// Makes local time the time of central Europe for as long as it lives.
+class CentralEurope {
+  public:
+    CentralEurope() { Set("CET-1CEST,M3.5.0,M10.5.0/3"); }
+    CentralEurope(const CentralEurope&) = delete;
+    CentralEurope& operator=(const CentralEurope&) = delete;
+    CentralEurope(CentralEurope&&) = delete;
+    CentralEurope& operator=(CentralEurope&&) = delete;
+    ~CentralEurope() { Set("UTC0"); }
+
+  private:
+    static void Set(const char* zone) {
+        setenv("TZ", zone, 1);
+        tzset();
+    }
+};
+
+TEST_F(FileSystemTest, AFilesLastChangeIsInLocalTimeInWinterAndInSummer) {
+    const CentralEurope zone;
+    const auto hourOf = [&](std::time_t moment) {
+        const std::string path = folder.Write("file", "");
+        const timespec time{moment, 0};
+        const std::array<timespec, 2> times = {time, time};
+        EXPECT_EQ(utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
+        const std::tm modified = LastModified(path, error);
+        EXPECT_FALSE(error);
+        return modified.tm_mday * 100 + modified.tm_hour;
+    };
+    EXPECT_EQ(hourOf(1163546999), 1500) << "2006-11-14 23:29:59 UTC";
+    EXPECT_EQ(hourOf(1152919799), 1501) << "2006-07-14 23:29:59 UTC";
 }
 
-TEST_F(FileSystemTest, AStampIsSettledWhenTheLastChangeIsLongAgo) {
-    FileStamp stamp = StampOf(folder.Write("file", "1"), error);
-    EXPECT_FALSE(IsSettled(stamp));
-    stamp.changed -= 1'000'000'000;
-    EXPECT_TRUE(IsSettled(stamp));
-    stamp.changed += 3'000'000'000'000;
-    EXPECT_FALSE(IsSettled(stamp)) << "the clock went backwards";
+TEST_F(FileSystemTest, AMissingFileOrAFolderHasNoLastChange) {
+    LastModified(folder.Path("gone"), error);
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+    LastModified(folder.Path(), error);
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+    LastModified(std::string("a\0b", 3), error);
+    EXPECT_EQ(error, std::errc::invalid_argument);
+}
+
+TEST(ParentPathTest, IsWhatStandsInFrontOfTheLastSeparator) {
+    EXPECT_EQ(ParentPath("/vst/Reverb.dll"), "/vst");
+    EXPECT_EQ(ParentPath("C:\\vst\\Reverb.dll"), "C:\\vst");
+    EXPECT_EQ(ParentPath("vst/Reverb.dll"), "vst");
+    EXPECT_EQ(ParentPath("/Reverb.dll"), "/");
+}
+
+TEST(ParentPathTest, APathWithoutSeparatorHasNone) {
+    EXPECT_EQ(ParentPath("Reverb.dll"), std::nullopt);
+    EXPECT_EQ(ParentPath(""), std::nullopt);
+}
+
+TEST(ParentPathTest, ABackslashInAPathFromTheRootIsACharacter) {
+    EXPECT_EQ(ParentPath("/vst/AC\\DC.dll"), "/vst");
 }
 
 }  // namespace

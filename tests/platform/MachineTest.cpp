@@ -1,7 +1,9 @@
+#include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <string>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -11,6 +13,54 @@
 
 namespace marlo::platform {
 namespace {
+
+/// A desktop of which the tests know what it has: a program that notes the arguments that it gets,
+/// and opens ".sheet" and ".cpr" files and folders with it. What a desktop has is looked up once in
+/// a process, so there is one for all tests.
+class MadeDesktop {
+  public:
+    static const MadeDesktop& Instance() {
+        static const MadeDesktop desktop;
+        return desktop;
+    }
+
+    std::string Program() const { return folder_.Path("bin/Sheets & Co"); }
+
+    /// What the program noted, once it has: how many arguments it got, and which.
+    std::string TakeNote() const {
+        for (int i = 0; i < 1000 && !folder_.Exists("note"); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        std::string note = folder_.Read("note");
+        std::filesystem::remove(folder_.Path("note"));
+        return note;
+    }
+
+  private:
+    MadeDesktop() {
+        const std::string note = folder_.Path("note");
+        folder_.Write("bin/Sheets & Co", "#!/bin/sh\nprintf '%s|' \"$#\" \"$@\" >'" + note +
+                                             ".new'\nmv '" + note + ".new' '" + note + "'\n");
+        std::filesystem::permissions(Program(), std::filesystem::perms::owner_all);
+        folder_.Write("data/mime/globs2",
+                      "50:text/x-sheet:*.sheet\n50:text/x-none:*.none\n"
+                      "50:text/x-boxed:*.boxed\n50:text/x-song:*.cpr\n");
+        folder_.Write("data/applications/sheets.desktop",
+                      "[Desktop Entry]\nType=Application\nName=Sheets\nExec=\"" + Program() +
+                          "\" %f\nMimeType=text/x-sheet;text/x-song;inode/directory;\n");
+        folder_.Write("data/applications/boxed.desktop",
+                      "[Desktop Entry]\nType=Application\nName=Boxed\nExec=env A=b " +
+                          folder_.Path("bin/x") + " %F\nMimeType=text/x-boxed;\n");
+        folder_.Write("config/mimeapps.list",
+                      "[Default Applications]\ntext/x-sheet=sheets.desktop\n"
+                      "text/x-song=sheets.desktop\ninode/directory=sheets.desktop\n"
+                      "text/x-boxed=boxed.desktop\n");
+        setenv("XDG_DATA_HOME", folder_.Path("data").c_str(), 1);
+        setenv("XDG_DATA_DIRS", folder_.Path("data").c_str(), 1);
+        setenv("XDG_CONFIG_HOME", folder_.Path("config").c_str(), 1);
+    }
+
+    test::TempFolder folder_;
+};
 
 class DesktopTest : public testing::Test {
   protected:
@@ -34,26 +84,66 @@ TEST_F(DesktopTest, ALibraryIsAnApplicationExtensionWhateverItsCase) {
 }
 
 TEST_F(DesktopTest, TheProgramForAnExtensionIsTheDesktopsOwn) {
-    const std::string program = folder.Write("bin/Sheets & Co", "#!/bin/sh\n");
-    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
-    folder.Write("data/mime/globs2",
-                 "50:text/x-marlo-sheet:*.sheet\n50:text/x-marlo-none:*.none\n"
-                 "50:text/x-marlo-boxed:*.boxed\n");
-    folder.Write("data/applications/sheets.desktop",
-                 "[Desktop Entry]\nType=Application\nName=Sheets\nExec=\"" + program +
-                     "\" %F\nMimeType=text/x-marlo-sheet;\n");
-    folder.Write("data/applications/boxed.desktop",
-                 "[Desktop Entry]\nType=Application\nName=Boxed\nExec=env A=b " +
-                     folder.Path("bin/x") + " %F\nMimeType=text/x-marlo-boxed;\n");
-    folder.Write("config/mimeapps.list",
-                 "[Default Applications]\ntext/x-marlo-sheet=sheets.desktop\n"
-                 "text/x-marlo-boxed=boxed.desktop\n");
-    setenv("XDG_DATA_HOME", folder.Path("data").c_str(), 1);
-    setenv("XDG_DATA_DIRS", folder.Path("data").c_str(), 1);
-    setenv("XDG_CONFIG_HOME", folder.Path("config").c_str(), 1);
-    EXPECT_EQ(SystemDesktop().ProgramForExtension(".sheet"), program);
+    const MadeDesktop& made = MadeDesktop::Instance();
+    EXPECT_EQ(SystemDesktop().ProgramForExtension(".sheet"), made.Program());
     EXPECT_EQ(SystemDesktop().ProgramForExtension(".none"), "");
     EXPECT_EQ(SystemDesktop().ProgramForExtension(".boxed"), "") << "env is not the program";
+}
+
+class ShellTest : public DesktopTest {
+  protected:
+    static int Ask(const ShellRequest& request) { return SystemDesktop().ShellExecute(request); }
+
+    const MadeDesktop& made = MadeDesktop::Instance();
+};
+
+TEST_F(ShellTest, AProgramGetsItsParametersAsOneArgumentWhateverIsInThem) {
+    const std::string hostile = folder.Write("a b'\"$(touch x);`y` \\ \n%f.csv", "");
+    EXPECT_GT(Ask({.file = made.Program(), .parameters = hostile}), kLastShellFailure);
+    EXPECT_EQ(made.TakeNote(), "1|" + hostile + "|");
+}
+
+TEST_F(ShellTest, AProgramWithoutParametersIsStartedWithoutArguments) {
+    EXPECT_GT(Ask({.file = made.Program()}), kLastShellFailure);
+    EXPECT_EQ(made.TakeNote(), "0|");
+}
+
+TEST_F(ShellTest, AProjectIsOpenedByTheProgramForItEvenWhereItMayBeExecuted) {
+    const std::string project = folder.Write("a 曲 $x.cpr", "#!/bin/sh\ntouch executed\n");
+    std::filesystem::permissions(project, std::filesystem::perms::owner_all);
+    EXPECT_GT(Ask({.file = project}), kLastShellFailure);
+    EXPECT_EQ(made.TakeNote(), "1|" + project + "|");
+}
+
+TEST_F(ShellTest, TheExplorerShowsAFolder) {
+    const std::string songs = folder.MakeFolder("songs; and more");
+    EXPECT_GT(Ask({.file = "explorer.exe", .parameters = songs}), kLastShellFailure);
+    EXPECT_EQ(made.TakeNote(), "1|" + songs + "|");
+}
+
+TEST_F(ShellTest, WhatIsNotThereIsNotFound) {
+    EXPECT_EQ(Ask({.file = folder.Path("gone.cpr")}), 2);
+    EXPECT_EQ(Ask({.file = ""}), 2);
+    EXPECT_EQ(Ask({.file = made.Program() + std::string("\0x", 2)}), 2);
+    EXPECT_EQ(Ask({.file = "explorer.exe", .parameters = folder.Path("gone")}), 2);
+    EXPECT_EQ(Ask({.file = "explorer.exe", .parameters = made.Program()}), 2) << "no folder";
+}
+
+TEST_F(ShellTest, ADocumentWithoutAProgramHasNoAssociation) {
+    EXPECT_EQ(Ask({.file = folder.Write("a.unheard-of", "")}), 31);
+}
+
+TEST_F(ShellTest, AProgramThatCannotBeStartedIsAFailure) {
+    const std::string broken = folder.Write("broken", "#!/nowhere/interpreter\n");
+    std::filesystem::permissions(broken, std::filesystem::perms::owner_all);
+    EXPECT_LE(Ask({.file = broken}), kLastShellFailure);
+}
+
+TEST_F(ShellTest, AShortPathIsThePathItselfOrNothing) {
+    const std::string path = folder.Write("a long name.csv", "");
+    EXPECT_EQ(SystemDesktop().ShortPath(path), path);
+    EXPECT_EQ(SystemDesktop().ShortPath(folder.Path()), folder.Path());
+    EXPECT_EQ(SystemDesktop().ShortPath(folder.Path("gone")), "");
 }
 
 TEST_F(DesktopTest, OtherFilesHaveNoDescription) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <sstream>
 
 namespace marlo::test {
 
@@ -57,6 +58,17 @@ std::optional<std::string> FakeDesktop::ProgramForExtension(const std::string& e
     return found == programs.end() ? "" : found->second;
 }
 
+int FakeDesktop::ShellExecute(const platform::ShellRequest& request) const {
+    shellRequests.push_back(request);
+    if (shellFailure)
+        std::rethrow_exception(shellFailure);
+    return shellAnswer;
+}
+
+std::string FakeDesktop::ShortPath(const std::string& path) const {
+    return std::filesystem::exists(path) ? "short:" + path : "";
+}
+
 void RecordingWindow::SetText1(const std::string& text) {
     text1 = text;
     events.push_back("Text1: " + text);
@@ -75,12 +87,32 @@ void RecordingWindow::ClearStatusBar() {
 
 void RecordingWindow::Repaint() {
     events.emplace_back("Repaint");
+    if (onRepaint)
+        onRepaint();
 }
 
 void RecordingWindow::LetEventsRun() {
     events.emplace_back("Events");
     if (onEvents)
         onEvents();
+}
+
+void RecordingWindow::SetHourglass(bool isShown) {
+    events.emplace_back(isShown ? "Hourglass" : "Usual pointer");
+}
+
+void RecordingWindow::AutoSizeListViewColumns() {
+    events.emplace_back("AutoSizeListViewColumns");
+    if (onAutoSize)
+        onAutoSize();
+}
+
+void RecordingWindow::SetListViewLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
+                                        std::int32_t sizingKind) {
+    std::ostringstream event;
+    event << "SetListViewLedger " << std::hex << bar1Colour << " " << bar2Colour << " "
+          << sizingKind;
+    events.push_back(event.str());
 }
 
 void RecordingWindow::DisableButtons() {

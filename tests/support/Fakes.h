@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
+#include <exception>
 #include <functional>
 #include <map>
 #include <optional>
@@ -34,16 +36,24 @@ class FakeDesktop final : public platform::Desktop {
                                                        {".dll", "Application Extension"},
                                                        {".DLL", "Application Extension"}};
     std::optional<std::string> ProgramForExtension(const std::string& extension) const override;
+    int ShellExecute(const platform::ShellRequest& request) const override;
+    std::string ShortPath(const std::string& path) const override;
 
     /// From an extension to its program; empty for a desktop that keeps them in the registry.
     std::map<std::string, std::string> programs;
     /// The names of files that cannot be asked about.
     std::set<std::string> unreadable;
+    /// What the shell was asked, and what it answers.
+    mutable std::vector<platform::ShellRequest> shellRequests;
+    int shellAnswer = 33;
+    /// Thrown by the shell, if set.
+    std::exception_ptr shellFailure;
 };
 
 /// A window that writes down what it is asked, in `events`, one line each: "Text1: …",
 /// "Text2: …", "ClearStatusBar", "Repaint", "Events", "DisableButtons", "EnableButtons",
-/// "PickFolder: <prompt> <start folder>", "Message: <text>".
+/// "PickFolder: <prompt> <start folder>", "Message: <text>", "Hourglass", "Usual pointer",
+/// "AutoSizeListViewColumns", "SetListViewLedger <colours in hexadecimal> <sizing kind>".
 class RecordingWindow final : public MainWindow {
   public:
     void SetText1(const std::string& text) override;
@@ -51,6 +61,10 @@ class RecordingWindow final : public MainWindow {
     void ClearStatusBar() override;
     void Repaint() override;
     void LetEventsRun() override;
+    void SetHourglass(bool isShown) override;
+    void AutoSizeListViewColumns() override;
+    void SetListViewLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
+                           std::int32_t sizingKind) override;
     std::string CancelTag() const override { return cancelTag; }
     void SetCancelTag(const std::string& tag) override { cancelTag = tag; }
     void DisableButtons() override;
@@ -75,8 +89,11 @@ class RecordingWindow final : public MainWindow {
     std::string folder;
     /// What the message boxes answer, in order; when it is used up, their first button.
     std::deque<MessageAnswer> answers;
-    /// Called when events run, and when a message is shown, so that a test can meddle.
+    /// Called when events run, when columns are fitted, when the window is repainted and when a
+    /// message is shown, so that a test can meddle.
     std::function<void()> onEvents;
+    std::function<void()> onAutoSize;
+    std::function<void()> onRepaint;
     std::function<void(const Message&)> onMessage;
 };
 
