@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <sstream>
 #include <stdexcept>
 
 #include "platform/Machine.h"
@@ -146,6 +147,63 @@ std::string WinePrefixFolder(std::size_t size, std::size_t effectCount) {
         return text;
     });
     return (std::filesystem::path(DataFolder()) / name).string();
+}
+
+std::string PluginName(std::size_t number) {
+    constexpr std::array makers = {"Tape",  "Analog", "Grand", "Mono", "Velvet", "Quad",
+                                   "Lunar", "Iron",   "Phat",  "Zero", "Hyper",  "Old"};
+    constexpr std::array kinds = {"Delay",  "Reverb", "Chorus", "Organ",   "Piano",
+                                  "Phaser", "Filter", "Bass",   "Limiter", "Strings"};
+    constexpr std::size_t scatter = 7919;  // coprime to both, so that neighbours differ
+    const std::size_t scattered = number * scatter;
+    std::ostringstream name;
+    name << makers[scattered % makers.size()] << ' '
+         << kinds[scattered / makers.size() % kinds.size()] << ' ' << number;
+    return name.str();
+}
+
+std::string ResultFilesFolder(std::size_t used, std::size_t installed) {
+    const std::string name = "reports-" + std::to_string(used) + "-" + std::to_string(installed);
+    // Every second number of the one is in the other, as far as the shorter one goes.
+    WriteOnce(name + "/resultfiles/tln.csv", [&] {
+        std::ostringstream text;
+        for (std::size_t i = 0; i < used; ++i)
+            text << '"' << PluginName(i * 2) << "\",\"" << (i % 8 == 0 ? "DirectX" : "VST")
+                 << "\",\"" << (i % 4 == 0 ? "Off" : "On") << "\"\r\n";
+        return text.str();
+    });
+    WriteOnce(name + "/resultfiles/installedplugins.csv", [&] {
+        std::ostringstream text;
+        for (std::size_t i = 0; i < installed; ++i)
+            text << "\"VST\",\"" << PluginName(i) << R"(","C:\Program Files\VstPlugins\)"
+                 << PluginName(i) << ".dll\"\r\n";
+        return text.str();
+    });
+    return (std::filesystem::path(DataFolder()) / name).string();
+}
+
+std::string SearchFolder() {
+    constexpr std::size_t lines = 1'000'000;
+    constexpr std::size_t linesInProject = 20;
+    constexpr std::size_t distance = lines / kRareUses;
+    const std::vector<std::string> projects = SmallProjects(kRareUses);
+    WriteOnce("search/resultfiles/installedplugins.csv",
+              [] { return std::string("\"VST\",\"Rare Gem\",\"/vst/Rare Gem.dll\"\r\n"); });
+    WriteOnce("search/resultfiles/fln.csv", [&] {
+        std::ostringstream text;
+        for (std::size_t i = 0; i < lines; ++i) {
+            const bool isRare = i % distance == 7;
+            const std::size_t song = i / linesInProject;
+            if (isRare)
+                text << '"' << projects[i / distance] << "\",\"" << kRarePlugin;
+            else
+                text << "\"/home/anna/Songs/Album " << song / 12 << "/Song " << song << ".cpr\",\""
+                     << PluginName(i % 5000);
+            text << "\",\"VST    \",\"" << (i % 4 == 0 ? "Off" : "On") << "\"\r\n";
+        }
+        return text.str();
+    });
+    return (std::filesystem::path(DataFolder()) / "search").string();
 }
 
 }  // namespace marlo::bench

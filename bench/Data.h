@@ -35,4 +35,19 @@ std::string FileTree(const std::string& name, std::size_t folderCount,
 /// among the other classes. @return its path.
 std::string WinePrefixFolder(std::size_t size, std::size_t effectCount);
 
+/// The name of one of many plug-ins, which begin with all sorts of letters.
+std::string PluginName(std::size_t number);
+
+/// An application folder with result files: a "tln.csv" and an "installedplugins.csv" with as many
+/// lines as asked for. Half of the lines of the shorter file are in the longer one.
+std::string ResultFilesFolder(std::size_t used, std::size_t installed);
+
+/// A plug-in that `SearchFolder`'s projects use rarely.
+inline constexpr const char* kRarePlugin = "Rare Gem";
+inline constexpr std::size_t kRareUses = 1000;
+
+/// An application folder with an "fln.csv" of 1,000,000 lines, of which `kRareUses` are of
+/// `kRarePlugin`, and the projects of those.
+std::string SearchFolder();
+
 }  // namespace marlo::bench

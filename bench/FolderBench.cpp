@@ -1,16 +1,12 @@
 // How fast folders are walked, against "find" on the same trees.
 
-#include <array>
-#include <fcntl.h>
 #include <filesystem>
-#include <spawn.h>
-#include <stdexcept>
 #include <string>
-#include <sys/wait.h>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
+#include "bench/Baselines.h"
 #include "bench/Data.h"
 #include "bench/QuietWindow.h"
 #include "bench/Report.h"
@@ -23,24 +19,6 @@ namespace marlo::bench {
 namespace {
 
 using benchmark::State;
-
-/// Runs `find TREE -iname PATTERN`, its output thrown away.
-void Find(State& state, const std::string& tree, const std::string& pattern) {
-    posix_spawn_file_actions_t actions{};
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    std::vector<std::string> words = {"find", tree, "-iname", pattern};
-    std::array<char*, 5> arguments = {words[0].data(), words[1].data(), words[2].data(),
-                                      words[3].data(), nullptr};
-    for (auto iteration : state) {
-        pid_t process = 0;
-        int status = 0;
-        if (posix_spawnp(&process, "find", &actions, nullptr, arguments.data(), environ) != 0 ||
-            waitpid(process, &status, 0) != process || status != 0)
-            throw std::runtime_error("cannot run find");
-    }
-    posix_spawn_file_actions_destroy(&actions);
-}
 
 void ScanTree(State& state, const std::string& tree) {
     const Application application = BenchApplication();
@@ -78,7 +56,9 @@ void RegisterTree(const std::string& what, std::size_t folderCount, const std::s
     const auto add = [&](const std::string& name, const std::vector<std::string>& extensions) {
         const auto tree = [=] { return FileTree("tree-" + name, folderCount, extensions); };
         const std::string baseline = name + "-find";
-        Register(baseline, [=](State& state) { Find(state, tree(), "*" + extension); });
+        Register(baseline, [=](State& state) {
+            RunProgram(state, {"find", tree(), "-iname", "*" + extension});
+        });
         Register(name, [=](State& state) { walk(state, tree()); });
         Compare({.what = name + " of " + std::to_string(folderCount * 10) + " files, against find",
                  .numerator = name,

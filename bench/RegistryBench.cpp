@@ -1,15 +1,14 @@
 // How fast a Wine prefix is read, and how fast the list of installed plug-ins answers.
 
-#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
 #include <string>
 #include <system_error>
-#include <thread>
 
 #include <benchmark/benchmark.h>
 
+#include "bench/Baselines.h"
 #include "bench/Data.h"
 #include "bench/QuietWindow.h"
 #include "bench/Report.h"
@@ -25,16 +24,6 @@ namespace {
 using benchmark::State;
 
 constexpr std::size_t kMB = 1'000'000;
-
-void ReadLines(State& state, const std::string& path) {
-    for (auto iteration : state) {
-        std::ifstream file(path, std::ios::binary);
-        std::size_t lines = 0;
-        for (std::string line; std::getline(file, line);)
-            ++lines;
-        benchmark::DoNotOptimize(lines);
-    }
-}
 
 /// From nothing to the first answer, which needs the whole file.
 void LoadPrefix(State& state, std::size_t size) {
@@ -74,7 +63,6 @@ void AskList(State& state, int questions) {
     for (int i = 0; i < 1000; ++i)
         file << "\"VST\",\"Plug-in " << i << "\",\"/vst/Plug-in " << i << ".dll\"\r\n";
     file.close();
-    std::this_thread::sleep_for(std::chrono::milliseconds(200));
     for (auto iteration : state) {
         InstalledPlugins installed(application);
         for (int i = 0; i < questions; ++i)
@@ -86,7 +74,7 @@ void AskList(State& state, int questions) {
 
 const bool registered = [] {
     Register("prefix-getline", [](State& state) {
-        ReadLines(state, WinePrefixFolder(50 * kMB, 20) + "/system.reg");
+        ReadLines(state, {WinePrefixFolder(50 * kMB, 20) + "/system.reg"});
     });
     for (const std::size_t size : {2 * kMB, 50 * kMB})
         Register("prefix-load-" + std::to_string(size / kMB) + "MB",

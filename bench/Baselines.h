@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+namespace marlo::bench {
+
+/// Reads the lines of files with `std::getline`.
+void ReadLines(benchmark::State& state, const std::vector<std::string>& paths);
+
+/// Runs a program that is found in the search path.
+/// @param words the program's name first.
+/// @param output the file that its output goes to.
+void RunProgram(benchmark::State& state, const std::vector<std::string>& words,
+                const std::string& output = "/dev/null");
+
+}  // namespace marlo::bench

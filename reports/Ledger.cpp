@@ -1,0 +1,23 @@
+#include "reports/Ledger.h"
+
+namespace marlo {
+
+std::int32_t LedgerBandHeight(std::int32_t textHeight, std::int32_t twipsPerPixel,
+                              std::int32_t imageHeight, std::int32_t sizingKind) {
+    constexpr std::int32_t checkBoxHeight = 18;  // pixels
+    const std::int32_t textPixels = textHeight / twipsPerPixel;
+    switch (sizingKind) {
+        case ledger::kTextOnly:
+            return textHeight + twipsPerPixel;
+        case ledger::kCheckBoxes:
+            if (textPixels > checkBoxHeight)
+                return textHeight + twipsPerPixel;
+            return textHeight + (checkBoxHeight - textPixels) * twipsPerPixel + twipsPerPixel;
+        case ledger::kIcons:
+            return textHeight + (imageHeight - textPixels) * twipsPerPixel + twipsPerPixel;
+        default:
+            return textHeight;
+    }
+}
+
+}  // namespace marlo

@@ -1,0 +1,175 @@
+#include "reports/PluginReports.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/RecordIndex.h"
+#include "core/RecordReader.h"
+#include "inventory/InstalledPlugins.h"
+
+namespace marlo {
+
+namespace {
+
+constexpr int kFieldCount = 3;
+constexpr const char* kNoPlugins = "No plugins found";
+
+/// What a plug-in is looked up by. Fields have no commas.
+void MakePluginKey(std::string& key, std::string_view name, std::string_view type) {
+    key.assign(name).append(",").append(type);
+}
+
+/// Adds a row unless there is one with that key.
+/// @return the new row, if any.
+std::optional<ResultRow> AddPlugin(ResultList& list, std::string_view key, std::string_view name) {
+    const auto row = list.AddRowUnlessThere(key, name);
+    if (row)
+        list.SetSmallIcon(*row, kRowIcon);
+    return row;
+}
+
+/// A line of installedplugins.csv, while it is the last one that was read.
+struct InstalledPlugin {
+    std::string_view type;
+    std::string_view name;
+    std::string_view path;
+
+    void Read(RecordReader& record) {
+        type = record[0];
+        name = record[1];
+        path = record[2];
+    }
+};
+
+/// A line of tln.csv, while it is the last one that was read.
+struct UsedPlugin {
+    std::string_view name;
+    std::string_view type;
+    std::string_view state;
+
+    void Read(RecordReader& record) {
+        name = record[0];
+        type = record[1];
+        state = record[2];
+    }
+};
+
+/// Adds a row for each installed plug-in that the settings do not ignore and that `isWanted` says
+/// yes to.
+template <class Predicate>
+void AddInstalledPlugins(ResultPane& pane, std::string_view relativePath,
+                         const IgnoreSettings& ignore, std::int16_t typeColumn,
+                         std::int16_t pathColumn, Predicate isWanted) {
+    ResultList& list = pane.lstSongs;
+    RecordReader installed(pane.application, relativePath, kFieldCount);
+    InstalledPlugin plugin;
+    std::string key;
+    while (installed.Next()) {
+        plugin.Read(installed);
+        if ((ignore.directX && plugin.type == "DirectX") || !isWanted(plugin))
+            continue;
+        key.assign(plugin.name).append(plugin.type).append(plugin.path);
+        const auto row = AddPlugin(list, key, plugin.name);
+        if (!row)
+            continue;
+        if (!ignore.directX)
+            list.SetSubItem(*row, typeColumn - 1, plugin.type);
+        if (plugin.type == "VST")
+            list.SetSubItem(*row, pathColumn - 1, plugin.path);
+    }
+    AddPlaceholderIfEmpty(list, kNoPlugins);
+}
+
+}  // namespace
+
+void ShowAllPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pathColumn) {
+    RunForUser(pane, "ShowAllPlugins", [&] {
+        AddInstalledPlugins(pane, "\\ResultFiles\\installedplugins.csv",
+                            ReadIgnoreSettings(pane.application), typeColumn, pathColumn,
+                            [](const InstalledPlugin& /*plugin*/) { return true; });
+    });
+}
+
+void ShowUsedPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pathColumn,
+                     std::int16_t statusColumn) {
+    RunForUser(pane, "ShowUsedPlugins", [&] {
+        ResultList& list = pane.lstSongs;
+        const IgnoreSettings ignore = ReadIgnoreSettings(pane.application);
+        RecordReader used(pane.application, "\\ResultFiles\\tln.csv", kFieldCount);
+        RecordIndex installed(pane.application, "\\resultfiles\\installedplugins.csv",
+                              [](RecordReader& record, std::string& key) {
+                                  MakePluginKey(key, record[1], record[0]);
+                                  return true;
+                              });
+        UsedPlugin plugin;
+        std::string key;
+        while (used.Next()) {
+            plugin.Read(used);
+            MakePluginKey(key, plugin.name, plugin.type);
+            const auto installedPath = installed.Find(key);
+            key.assign(plugin.name).append(plugin.type);
+            if (installedPath)
+                key.append(*installedPath);
+            key.append(plugin.state);
+            const auto row = AddPlugin(list, key, plugin.name);
+            if (!row)
+                continue;
+            if (!ignore.directX)
+                list.SetSubItem(*row, typeColumn - 1, plugin.type);
+            if (!installedPath)
+                list.SetSubItem(*row, pathColumn - 1, "!Not Installed!");
+            else if (plugin.type == "VST")
+                list.SetSubItem(*row, pathColumn - 1, *installedPath);
+            if (!ignore.off)
+                list.SetSubItem(*row, statusColumn - 1, plugin.state);
+            if (!installedPath)
+                GreyRow(list, *row);
+        }
+        AddPlaceholderIfEmpty(list, kNoPlugins);
+    });
+}
+
+void ShowUnusedPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pathColumn) {
+    RunForUser(pane, "ShowUnusedPlugins", [&] {
+        const IgnoreSettings ignore = ReadIgnoreSettings(pane.application);
+        RecordIndex used(pane.application, "\\resultfiles\\tln.csv",
+                         [&](RecordReader& record, std::string& key) {
+                             MakePluginKey(key, record[0], record[1]);
+                             return !ignore.off || record[2] != "Off";
+                         });
+        std::string key;
+        AddInstalledPlugins(pane, "\\ResultFiles\\installedplugins.csv", ignore, typeColumn,
+                            pathColumn, [&](const InstalledPlugin& plugin) {
+                                MakePluginKey(key, plugin.name, plugin.type);
+                                return !used.Find(key);
+                            });
+    });
+}
+
+void ShowUninstalledPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t statusColumn) {
+    // The log does not tell this report from the one of unused plug-ins; it never did.
+    RunForUser(pane, "ShowUnusedPlugins", [&] {
+        ResultList& list = pane.lstSongs;
+        const IgnoreSettings ignore = ReadIgnoreSettings(pane.application);
+        RecordReader used(pane.application, "\\resultfiles\\tln.csv", kFieldCount);
+        InstalledPlugins installed(pane.application);
+        UsedPlugin plugin;
+        std::string key;
+        while (used.Next()) {
+            plugin.Read(used);
+            if (installed.PluginIsInstalled(plugin.name))
+                continue;
+            key.assign(plugin.name).append(plugin.type).append(plugin.state);
+            const auto row = AddPlugin(list, key, plugin.name);
+            if (!row)
+                continue;
+            if (!ignore.directX)
+                list.SetSubItem(*row, typeColumn - 1, plugin.type);
+            if (!ignore.off)
+                list.SetSubItem(*row, statusColumn - 1, plugin.state);
+        }
+    });
+}
+
+}  // namespace marlo

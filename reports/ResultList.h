@@ -1,0 +1,117 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/TextTable.h"
+
+namespace marlo {
+
+/// The colour of a cell's text.
+enum class TextColour : std::uint8_t { Normal, Greyed };
+
+enum class SortOrder { Ascending = 0, Descending = 1 };
+
+/// A row of the list, wherever it stands: 0 for the one that was added first.
+enum class ResultRow : std::uint32_t {};
+
+/// What `lstSongs` shows: columns, and rows of text cells that can be put in the order of one
+/// column. A window shows it without keeping rows of its own; adding a row and finding a key take
+/// constant time, and rows are put in order when somebody looks.
+///
+/// Columns and positions are counted from 1, as the list's users do. Where a list control would
+/// fail, the routines here throw a `RunTimeError`: "Subscript out of range" for a column, position
+/// or sub-item that does not exist, "Key is not unique in collection" for a key that is there
+/// already. Texts that are handed out stay until the rows are cleared.
+class ResultList {
+  public:
+    int ColumnCount() const { return static_cast<int>(headers_.size()); }
+    const std::string& Header(int column) const;
+    /// @return the new column's index.
+    std::int16_t AddColumn(const std::string& header);
+    /// The cells of the rows stay where they are.
+    void RemoveColumn(int column);
+
+    std::size_t RowCount() const { return icons_.size(); }
+    /// Adds a row at the end, or in its place while the list is sorted.
+    ResultRow AddRow(std::string_view key, std::string_view text);
+    /// The same; adds nothing when a row has exactly that key.
+    std::optional<ResultRow> AddRowUnlessThere(std::string_view key, std::string_view text);
+    void ClearRows();
+    /// The row at a position, from the top.
+    ResultRow RowAt(std::size_t position) const;
+
+    std::string_view Key(ResultRow row) const { return keys_[Index(row)]; }
+    /// The main text, which stands in column 1.
+    std::string_view Text(ResultRow row) const { return CellOf(row, 0).Text(); }
+    TextColour Colour(ResultRow row) const { return CellOf(row, 0).colour; }
+    void SetColour(ResultRow row, TextColour colour) { CellOf(row, 0).colour = colour; }
+    /// 1-based; 0 for none.
+    int SmallIcon(ResultRow row) const { return icons_[Index(row)]; }
+    void SetSmallIcon(ResultRow row, std::uint8_t icon) { icons_[Index(row)] = icon; }
+
+    // Sub-item k of a row stands in column k + 1; there are as many as columns behind the first.
+
+    /// The text of a cell; empty for one that was never set.
+    std::string_view SubItem(ResultRow row, int subItem) const;
+    void SetSubItem(ResultRow row, int subItem, std::string_view text);
+    TextColour SubItemColour(ResultRow row, int subItem) const;
+    void SetSubItemColour(ResultRow row, int subItem, TextColour colour);
+
+    /// The column whose texts order the rows, 0-based.
+    int SortKey() const { return sortKey_; }
+    SortOrder Order() const { return order_; }
+    bool IsSorted() const { return isSorted_; }
+    void SetSortKey(int column);
+    void SetOrder(SortOrder order);
+    /// Switched on, the rows are put in the order of the key's column (see TextOrder.h), and rows
+    /// that are added take their place; switched off, they stay where they are.
+    void SetSorted(bool isSorted);
+
+    bool IsVisible() const { return isVisible_; }
+    void SetVisible(bool isVisible) { isVisible_ = isVisible; }
+
+    /// The selected row, which stays selected when the order changes.
+    /// @throws RunTimeError "Object variable not set" when there is none.
+    ResultRow SelectedRow() const;
+    void Select(std::size_t position) { selected_ = RowAt(position); }
+    void SelectNone() { selected_.reset(); }
+
+  private:
+    /// A view of a text, and its colour, in as little memory as possible: lists are long.
+    struct Cell {
+        const char* start = nullptr;
+        std::uint32_t size = 0;
+        TextColour colour = TextColour::Normal;
+
+        std::string_view Text() const { return {start, size}; }
+        void SetText(std::string_view text);
+    };
+
+    static std::size_t Index(ResultRow row) { return static_cast<std::size_t>(row); }
+    std::size_t CheckedSubItem(int subItem) const;
+    const Cell& CellOf(ResultRow row, std::size_t column) const;
+    Cell& CellOf(ResultRow row, std::size_t column);
+    void WidenRows();
+    void Settle() const;
+
+    std::vector<std::string> headers_;
+    TextTable keys_;  ///< numbered as the rows are; the cells' texts live in its memory
+    std::vector<std::uint8_t> icons_;
+    std::vector<Cell> cells_;   ///< row by row
+    std::size_t rowWidth_ = 1;  ///< cells of a row; at least as many as there are columns
+    /// The rows from the top; those that were added since somebody looked are not in it yet.
+    mutable std::vector<std::uint32_t> positions_;
+    int sortKey_ = 0;
+    SortOrder order_ = SortOrder::Ascending;
+    bool isSorted_ = false;
+    mutable bool isSettled_ = true;  ///< every row has its place
+    bool isVisible_ = true;
+    std::optional<ResultRow> selected_;
+};
+
+}  // namespace marlo

@@ -1,0 +1,36 @@
+#include "reports/ResultPane.h"
+
+#include "core/Settings.h"
+#include "reports/Ledger.h"
+
+namespace marlo {
+
+IgnoreSettings ReadIgnoreSettings(const Application& application) {
+    return {.directX = getSetting(application, setting::kIgnoreDirectX) == "1",
+            .off = getSetting(application, setting::kIgnoreOff) == "1"};
+}
+
+void BeginRebuild(ResultPane& pane) {
+    for (int columns = pane.lstSongs.ColumnCount(); columns > 0; --columns)
+        pane.lstSongs.RemoveColumn(1);
+    pane.lstSongs.ClearRows();
+    pane.lstSongs.SetVisible(false);
+}
+
+void FitAndShade(ResultPane& pane) {
+    pane.window.AutoSizeListViewColumns();
+    pane.window.SetListViewLedger(kLedgerBar1, kLedgerBar2, ledger::kIcons);
+}
+
+void GreyRow(ResultList& list, ResultRow row) {
+    list.SetColour(row, TextColour::Greyed);
+    for (int subItem = 1; subItem < list.ColumnCount(); ++subItem)
+        list.SetSubItemColour(row, subItem, TextColour::Greyed);
+}
+
+void AddPlaceholderIfEmpty(ResultList& list, const std::string& text) {
+    if (list.RowCount() == 0)
+        list.SetSmallIcon(list.AddRow(text, text), kRowIcon);
+}
+
+}  // namespace marlo

@@ -1,0 +1,109 @@
+#include "reports/ResultSearch.h"
+
+#include <string_view>
+#include <system_error>
+
+#include "core/RecordReader.h"
+#include "core/RunTimeError.h"
+#include "inventory/InstalledPlugins.h"
+#include "platform/FileSystem.h"
+#include "reports/DateText.h"
+
+namespace marlo {
+
+namespace {
+
+/// The columns that every search has, 1-based, and those that not every one has; 0 for one that is
+/// not there.
+constexpr int kModifiedColumn = 2;
+constexpr int kPluginColumn = 3;
+
+struct OptionalColumns {
+    std::int16_t type = 0;
+    std::int16_t status = 0;
+};
+
+OptionalColumns AddColumns(ResultList& list, const IgnoreSettings& ignore) {
+    OptionalColumns columns;
+    list.AddColumn("Project");
+    list.AddColumn("Last Modified");
+    list.AddColumn("Plugin");
+    if (!ignore.directX)
+        columns.type = list.AddColumn("Type");
+    if (!ignore.off)
+        columns.status = list.AddColumn("Status");
+    return columns;
+}
+
+/// A line of fln.csv.
+struct ProjectPlugin {
+    std::string project;
+    std::string name;
+    std::string type;
+    std::string state;
+};
+
+/// Whether the search finds a line.
+bool IsHit(RecordReader& line, const SearchPane& search, SearchMatch& match,
+           const IgnoreSettings& ignore) {
+    if ((ignore.directX && line[2] == "DirectX") || (ignore.off && line[3] == "Off"))
+        return false;
+    return match.Matches(line[search.mode == search_mode::kPluginsInProject ? 0 : 1]);
+}
+
+std::string ModifiedText(const std::string& project) {
+    std::error_code error;
+    const std::tm modified = platform::LastModified(project, error);
+    ThrowOn(error);
+    return GeneralDate(modified);
+}
+
+}  // namespace
+
+void SearchResultFiles(ResultPane& pane, const SearchPane& search, std::int16_t typeColumn,
+                       std::int16_t statusColumn) {
+    RunForUser(pane, "SearchResultFiles", [&] {
+        ResultList& list = pane.lstSongs;
+        const IgnoreSettings ignore = ReadIgnoreSettings(pane.application);
+        SearchMatch match(search.cboSearchType, search.txtSearchText, search.chkIgnoreCase);
+        RecordReader lines(pane.application, "\\resultfiles\\fln.csv", 4);
+        InstalledPlugins installed(pane.application);
+        while (lines.Next()) {
+            if (!IsHit(lines, search, match, ignore))
+                continue;
+            const ProjectPlugin hit{std::string(lines[0]), std::string(lines[1]),
+                                    std::string(lines[2]), std::string(lines[3])};
+            const ResultRow row =
+                list.AddRow(hit.project + hit.name + hit.type + hit.state, hit.project);
+            list.SetSmallIcon(row, kRowIcon);
+            list.SetSubItem(row, kModifiedColumn - 1, ModifiedText(hit.project));
+            list.SetSubItem(row, kPluginColumn - 1, hit.name);
+            if (!ignore.directX)
+                list.SetSubItem(row, typeColumn - 1, hit.type);
+            if (!ignore.off)
+                list.SetSubItem(row, statusColumn - 1, hit.state);
+            if (!installed.PluginIsInstalled(hit.name))
+                GreyRow(list, row);
+        }
+        AddPlaceholderIfEmpty(list, "No projects found");
+    });
+}
+
+void cmdFind_Click(ResultPane& pane, const SearchPane& search) {
+    RunForUser(pane, "cmdFind_Click", [&] {
+        const IgnoreSettings ignore = ReadIgnoreSettings(pane.application);
+        pane.lastSortColumn = -1;
+        BeginRebuild(pane);
+        const OptionalColumns columns = AddColumns(pane.lstSongs, ignore);
+        pane.window.SetHourglass(true);
+        pane.window.SetText1("Searching...");
+        pane.window.Repaint();
+        SearchResultFiles(pane, search, columns.type, columns.status);
+        pane.window.SetHourglass(false);
+        FitAndShade(pane);
+        pane.lstSongs.SetVisible(true);
+        pane.window.ClearStatusBar();
+    });
+}
+
+}  // namespace marlo

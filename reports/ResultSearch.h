@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "reports/ResultPane.h"
+#include "reports/SearchMatch.h"
+
+namespace marlo {
+
+/// What a search of the result files compares with the search text, as the search button's
+/// caption tells.
+namespace search_mode {
+inline constexpr const char* kProjectsByPlugin = "Search for Projects by Plugin";
+inline constexpr const char* kPluginsInProject = "List Plugins in Project";
+}  // namespace search_mode
+
+/// What the controls of the search pane hold.
+struct SearchPane {
+    std::string mode = search_mode::kProjectsByPlugin;
+    std::string txtSearchText;  ///< a field, as typed
+    std::string cboSearchType = match_type::kExact;
+    bool chkIgnoreCase = false;
+};
+
+/// Adds a row to `lstSongs` for each line of "\resultfiles\fln.csv" that the search finds, in their
+/// order: project, date of the project file, plug-in, and type and state unless the settings
+/// ignore DirectX plug-ins or uses that are off, which are left out then. A plug-in that is not
+/// installed is greyed. A list without rows gets the row "No projects found".
+///
+/// A failure is logged under "SearchResultFiles" and told, and the rows found before it stay.
+/// A missing project file is one, and so is a line that comes twice.
+///
+/// @param typeColumn 1-based; only looked at where DirectX plug-ins are not ignored.
+/// @param statusColumn 1-based; only looked at where uses that are off are not ignored.
+void SearchResultFiles(ResultPane& pane, const SearchPane& search, std::int16_t typeColumn,
+                       std::int16_t statusColumn);
+
+/// Shows the result of a search: builds the columns and lets `SearchResultFiles` add the rows,
+/// under an hourglass. The sorting of the list stays as it is. The next click on any column's
+/// header counts as the first.
+///
+/// A failure outside of the search is logged under "cmdFind_Click" and told, and leaves the list
+/// hidden.
+void cmdFind_Click(ResultPane& pane, const SearchPane& search);
+
+}  // namespace marlo
