@@ -9,7 +9,7 @@ SOURCES  := git ls-files '*.h' '*.cpp'
 help: ## List the targets
 	@sed -n 's/^\([a-z-]*\):.*## /  make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
 
-run: ## Build Marlo, search the sample projects and list the sample plug-ins
+run: ## Build Marlo, search the samples and show the four reports
 	@$(PACKAGES) build
 	@cmake --preset normal --log-level=WARNING
 	@cmake --build --preset normal --target marlo-cli marlo-samples

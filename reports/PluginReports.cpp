@@ -13,7 +13,6 @@ namespace marlo {
 namespace {
 
 constexpr int kFieldCount = 3;
-constexpr const char* kNoPlugins = "No plugins found";
 
 /// What a plug-in is looked up by. Fields have no commas.
 void MakePluginKey(std::string& key, std::string_view name, std::string_view type) {

@@ -28,9 +28,16 @@ void GreyRow(ResultList& list, ResultRow row) {
         list.SetSubItemColour(row, subItem, TextColour::Greyed);
 }
 
-void AddPlaceholderIfEmpty(ResultList& list, const std::string& text) {
+void AddPlaceholderIfEmpty(ResultList& list, std::string_view text) {
     if (list.RowCount() == 0)
         list.SetSmallIcon(list.AddRow(text, text), kRowIcon);
+}
+
+bool HoldsPlaceholder(const ResultList& list) {
+    if (list.RowCount() != 1)
+        return false;
+    const std::string_view key = list.Key(list.RowAt(1));
+    return key == kNoPlugins || key == kNoProjects;
 }
 
 }  // namespace marlo

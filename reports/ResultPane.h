@@ -1,7 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+#include <string_view>
+#include <utility>
 
 #include "core/Application.h"
 #include "core/ErrorLog.h"
@@ -40,9 +41,15 @@ inline constexpr std::uint8_t kRowIcon = 1;
 /// Shows a row in grey: the colour of its text, and of every cell behind it.
 void GreyRow(ResultList& list, ResultRow row);
 
+inline constexpr std::string_view kNoPlugins = "No plugins found";
+inline constexpr std::string_view kNoProjects = "No projects found";
+
 /// Adds a row that tells that there are no others, if there are none.
-/// @param text is its key too.
-void AddPlaceholderIfEmpty(ResultList& list, const std::string& text);
+/// @param text one of the two above; its key too.
+void AddPlaceholderIfEmpty(ResultList& list, std::string_view text);
+
+/// Whether the list has such a row, and no other.
+bool HoldsPlaceholder(const ResultList& list);
 
 /// Runs `body` as a routine that the user started: a failure is logged under `procedure` and told.
 /// @return whether `body` came to its end.

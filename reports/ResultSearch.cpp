@@ -85,7 +85,7 @@ void SearchResultFiles(ResultPane& pane, const SearchPane& search, std::int16_t 
             if (!installed.PluginIsInstalled(hit.name))
                 GreyRow(list, row);
         }
-        AddPlaceholderIfEmpty(list, "No projects found");
+        AddPlaceholderIfEmpty(list, kNoProjects);
     });
 }
 

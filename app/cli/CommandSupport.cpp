@@ -1,6 +1,7 @@
 #include "app/cli/CommandSupport.h"
 
 #include <iostream>
+#include <limits>
 
 #include "app/cli/TerminalText.h"
 #include "core/Settings.h"
@@ -33,6 +34,12 @@ int ComplainOfPath(const std::string& command, const std::string& path) {
 
 std::string Counted(std::size_t count, const std::string& noun) {
     return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+int MaxColumnWidth() {
+    constexpr int onTerminal = 60;
+    return platform::IsTerminal(platform::Stream::Out) ? onTerminal
+                                                       : std::numeric_limits<int>::max();
 }
 
 void PrintField(const std::string& field) {

@@ -28,6 +28,10 @@ int ComplainOfPath(const std::string& command, const std::string& path);
 /// "1 project", "2 projects".
 std::string Counted(std::size_t count, const std::string& noun);
 
+/// How wide the columns of a table on the standard output may be, in cells: a terminal's lines are
+/// short, and elsewhere nothing is cut.
+int MaxColumnWidth();
+
 /// Prints a field and a line end: as it is for a program to read, made harmless on a terminal.
 void PrintField(const std::string& field);
 

@@ -23,6 +23,9 @@ struct Environment {
 
 enum class OutputFormat { Table, Csv, Json };
 
+/// How a report or the result of a search is printed.
+enum class ListFormat { Table, Csv, Json, Html };
+
 struct PluginsOptions {
     std::vector<std::string> files;
     bool merged = false;  ///< a line for each plug-in of a file rather than for each use
@@ -55,6 +58,28 @@ struct InstalledOptions {
 /// @return kCancelled after an interrupt, kFailed when anything failed, which is said on the
 ///         standard error stream.
 int RunInstalled(const Environment& environment, const InstalledOptions& options);
+
+struct ReportOptions {
+    std::string kind;  ///< as `ShowInstalledPlugins` takes it
+    ListFormat format = ListFormat::Table;
+};
+
+/// Prints a report from the result files.
+/// @return kFailed when anything failed, which is said on the standard error stream; what was found
+///         is printed all the same.
+int RunReport(const Environment& environment, const ReportOptions& options);
+
+struct FindOptions {
+    std::string text;
+    std::string mode;                      ///< as `SearchPane` has it
+    std::optional<std::string> matchType;  ///< nothing: the one that was chosen last
+    std::optional<bool> ignoreCase;        ///< nothing: the same
+    ListFormat format = ListFormat::Table;
+};
+
+/// Searches the result files and prints what it finds.
+/// @return as `RunReport`.
+int RunFind(const Environment& environment, const FindOptions& options);
 
 /// Prints the VST plug-in folders, one a line; those that are not there now are said on the
 /// standard error stream too.

@@ -81,7 +81,7 @@ void PrintJson(const std::vector<Line>& lines) {
 }
 
 void PrintTable(const std::vector<Line>& lines) {
-    Table table({"Plug-in", "Type", "State", "Project"});
+    Table table({"Plug-in", "Type", "State", "Project"}, MaxColumnWidth());
     for (const Line& line : lines)
         table.AddRow({std::string(NameIn(line)), std::string(TypeIn(line)), std::string(line.state),
                       std::string(line.project)});

@@ -2,23 +2,37 @@
 
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace marlo::cli {
 
 /// A table for a person to read. Columns are aligned by display width; texts are made harmless
-/// (see `Printable`). A text wider than 60 cells is cut short, except in the last column.
+/// (see `Printable`).
 class Table {
   public:
-    explicit Table(const std::vector<std::string>& headers);
+    /// @param maxColumnWidth in cells; wider texts are cut to it (see `FitToWidth`), except in the
+    ///        last column.
+    Table(const std::vector<std::string>& headers, int maxColumnWidth);
 
     /// Adds a row of as many fields as there are headers.
-    void AddRow(const std::vector<std::string>& fields);
+    void AddRow(const std::vector<std::string>& fields, bool isDimmed = false);
 
-    void Print(std::ostream& out) const;
+    /// @param hasColours whether dimmed rows can be shown so; else they have a "*" in front.
+    void Print(std::ostream& out, bool hasColours = false) const;
 
   private:
-    std::vector<std::vector<std::string>> rows_;  // the headers first
+    struct Row {
+        std::vector<std::string> fields;
+        bool isDimmed = false;
+    };
+
+    std::vector<int> Widths() const;
+    std::string_view GutterOf(const Row& row, bool hasColours) const;
+
+    int maxColumnWidth_;
+    std::vector<Row> rows_;  // the headers first
+    bool hasDimmedRows_ = false;
 };
 
 }  // namespace marlo::cli

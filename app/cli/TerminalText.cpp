@@ -12,7 +12,7 @@ namespace marlo::cli {
 
 namespace {
 
-constexpr std::string_view kEllipsis = "…";
+const std::string kEllipsis = "…";
 
 bool IsInert(char32_t character) {
     switch (utf8proc_category(static_cast<utf8proc_int32_t>(character))) {
@@ -64,6 +64,20 @@ int CellsOf(const std::u32string& text) {
     return width;
 }
 
+std::u32string_view StartThatFits(std::u32string_view text, int width) {
+    std::size_t length = 0;
+    while (length < text.size() && (width -= CellsOf(text[length])) >= 0)
+        ++length;
+    return text.substr(0, length);
+}
+
+std::u32string_view EndThatFits(std::u32string_view text, int width) {
+    std::size_t start = text.size();
+    while (start > 0 && (width -= CellsOf(text[start - 1])) >= 0)
+        --start;
+    return text.substr(start);
+}
+
 }  // namespace
 
 std::string Printable(std::string_view field) {
@@ -85,15 +99,10 @@ std::string FitToWidth(std::string_view printable, int width) {
     const std::u32string text = Decode(printable);
     if (CellsOf(text) <= width)
         return std::string(printable);
-    std::u32string fitting;
-    int used = 1;  // the ellipsis
-    for (const char32_t character : text) {
-        used += CellsOf(character);
-        if (used > width)
-            break;
-        fitting += character;
-    }
-    return EncodeUtf8(fitting).append(kEllipsis);
+    const bool isPath = text.find_first_of(U"/\\") != std::u32string::npos;
+    const int available = width - 1;  // the ellipsis takes one
+    return isPath ? kEllipsis + EncodeUtf8(EndThatFits(text, available))
+                  : EncodeUtf8(StartThatFits(text, available)) + kEllipsis;
 }
 
 std::string JsonText(const nlohmann::ordered_json& value) {

@@ -15,7 +15,8 @@ std::string Printable(std::string_view field);
 /// How many cells of a terminal `printable` takes; `printable` comes from `Printable`.
 int DisplayWidth(std::string_view printable);
 
-/// `printable` cut to at most `width` cells, with "…" in the last one if anything was cut off.
+/// `printable` cut to at most `width` cells, with "…" for what was cut off. That is the end, but of
+/// a path the beginning.
 std::string FitToWidth(std::string_view printable, int width);
 
 /// `value` as indented JSON text, a line end after it. The characters that `Printable` replaces

@@ -16,6 +16,8 @@
 #include "app/cli/TerminalText.h"
 #include "platform/FileSystem.h"
 #include "platform/Machine.h"
+#include "reports/ReportView.h"
+#include "reports/ResultSearch.h"
 
 namespace marlo::cli {
 
@@ -43,6 +45,8 @@ class CommandLine {
         AddPlugins();
         AddSearch();
         AddInstalled();
+        AddReport();
+        AddFind();
         AddFolders();
         AddOptions();
         AddCommand(app_, "log", "Print when the last runs were, and what was searched", RunLog);
@@ -50,10 +54,12 @@ class CommandLine {
 
     /// @param arguments without the program's name.
     int Run(std::vector<std::string> arguments) {
-        // The parser takes a name in square brackets for a list of names.
-        for (std::string& argument : arguments)
-            if (argument.starts_with('[') && argument.ends_with(']'))
-                argument = platform::JoinPath(".", argument);
+        // Where it takes several names, the parser takes one in square brackets for a list of
+        // names.
+        if (CommandIn(arguments) == "plugins")
+            for (std::string& argument : arguments)
+                if (argument.starts_with('[') && argument.ends_with(']'))
+                    argument = platform::JoinPath(".", argument);
         std::reverse(arguments.begin(), arguments.end());  // the order that it wants
         try {
             app_.parse(std::move(arguments));
@@ -84,15 +90,37 @@ class CommandLine {
         return added;
     }
 
-    static void AddFormat(CLI::App* command, OutputFormat& format) {
-        static const std::map<std::string, OutputFormat> formats = {{"table", OutputFormat::Table},
-                                                                    {"csv", OutputFormat::Csv},
-                                                                    {"json", OutputFormat::Json}};
-        command
+    /// The command that the arguments name; empty when they name none.
+    static std::string CommandIn(const std::vector<std::string>& arguments) {
+        for (std::size_t i = 0; i < arguments.size(); ++i) {
+            if (!arguments[i].starts_with('-'))
+                return arguments[i];
+            if (arguments[i] == "--app-folder")
+                ++i;
+        }
+        return {};
+    }
+
+    /// Adds an option that takes one of some names.
+    template <class Value, class Target>
+    static CLI::Option* AddChoice(CLI::App* command, const std::string& name, Target& target,
+                                  const std::map<std::string, Value>& choices,
+                                  const std::string& description) {
+        return command
             ->add_option_function<std::string>(
-                "--format", [&format](const std::string& name) { format = formats.at(name); },
-                "table (default), csv or json")
-            ->check(CLI::IsMember(formats).description(""))
+                name,
+                [&target, choices](const std::string& choice) { target = choices.at(choice); },
+                description)
+            ->check(CLI::IsMember(choices).description(""));
+    }
+
+    static void AddListFormat(CLI::App* command, ListFormat& format) {
+        AddChoice<ListFormat>(command, "--format", format,
+                              {{"table", ListFormat::Table},
+                               {"csv", ListFormat::Csv},
+                               {"json", ListFormat::Json},
+                               {"html", ListFormat::Html}},
+                              "table (default), csv, json or html")
             ->type_name("FORMAT");
     }
 
@@ -104,7 +132,12 @@ class CommandLine {
         command->add_flag("--merged", plugins_.merged,
                           "A line for each plug-in of a project rather than for each use; On when "
                           "any use is on");
-        AddFormat(command, plugins_.format);
+        AddChoice<OutputFormat>(command, "--format", plugins_.format,
+                                {{"table", OutputFormat::Table},
+                                 {"csv", OutputFormat::Csv},
+                                 {"json", OutputFormat::Json}},
+                                "table (default), csv or json")
+            ->type_name("FORMAT");
     }
 
     void AddSearch() {
@@ -138,6 +171,50 @@ class CommandLine {
         command->add_flag("--progress", installed_.showProgress, kProgressHelp);
     }
 
+    void AddReport() {
+        auto* const command = AddCommand(
+            app_, "report", "Print a report from the result files",
+            [this](const Environment& environment) { return RunReport(environment, report_); });
+        AddChoice<std::string>(
+            command, "REPORT", report_.kind,
+            {{"used", report_kind::kUsed},
+             {"unused", report_kind::kUnused},
+             {"installed", report_kind::kAll},
+             {"uninstalled", report_kind::kUninstalled}},
+            "used; unused: installed, but in no project; installed; uninstalled: "
+            "used, but not installed")
+            ->required()
+            ->type_name("used|unused|installed|uninstalled");
+        AddListFormat(command, report_.format);
+    }
+
+    void AddFind() {
+        auto* const command = AddCommand(
+            app_, "find", "Search the result files for a plug-in or a project",
+            [this](const Environment& environment) { return RunFind(environment, find_); });
+        command->add_option("TEXT", find_.text, "What to look for")->required()->type_name("");
+        find_.mode = search_mode::kProjectsByPlugin;
+        AddChoice<std::string>(command, "--in", find_.mode,
+                               {{"plugins", search_mode::kProjectsByPlugin},
+                                {"projects", search_mode::kPluginsInProject}},
+                               "Where: in the names of plug-ins (default) or of projects")
+            ->type_name("plugins|projects");
+        AddChoice<std::string>(command, "--match", find_.matchType,
+                               {{"exact", match_type::kExact},
+                                {"starts", match_type::kStartsWith},
+                                {"ends", match_type::kEndsWith},
+                                {"contains", match_type::kContains}},
+                               "How a name matches (default: as chosen last in the window)")
+            ->type_name("exact|starts|ends|contains");
+        command->add_flag_callback(
+            "--ignore-case", [this] { find_.ignoreCase = true; },
+            "Take capitals and small letters for the same (default: as chosen last)");
+        command->add_flag_callback(
+            "--no-ignore-case", [this] { find_.ignoreCase = false; },
+            "Tell capitals from small letters");
+        AddListFormat(command, find_.format);
+    }
+
     void AddFolders() {
         auto* const command = AddCommand(
             app_, "folders", "Print or change the list of VST plug-in folders", RunFoldersList);
@@ -156,15 +233,6 @@ class CommandLine {
         addChange("remove", "Take a folder off the list", RunFoldersRemove);
     }
 
-    static void AddSwitch(CLI::App* command, const std::string& name, std::optional<bool>& value,
-                          const std::string& description) {
-        command
-            ->add_option_function<std::string>(
-                name, [&value](const std::string& text) { value = text == "on"; }, description)
-            ->check(CLI::IsMember({"on", "off"}).description(""))
-            ->type_name("on|off");
-    }
-
     void AddOptions() {
         auto* const command = AddCommand(
             app_, "options", "Print or set the options of the program",
@@ -174,9 +242,14 @@ class CommandLine {
                 "--csv-program", [this](const std::string& path) { options_.csvProgram = path; },
                 "The program that opens the CSV result files")
             ->type_name("PATH");
-        AddSwitch(command, "--ignore-directx", options_.ignoreDirectX,
+        const auto addSwitch = [&](const std::string& name, std::optional<bool>& value,
+                                   const std::string& description) {
+            AddChoice<bool>(command, name, value, {{"on", true}, {"off", false}}, description)
+                ->type_name("on|off");
+        };
+        addSwitch("--ignore-directx", options_.ignoreDirectX,
                   "Leave DirectX plug-ins out of the reports");
-        AddSwitch(command, "--ignore-off", options_.ignoreOff,
+        addSwitch("--ignore-off", options_.ignoreOff,
                   "Leave plug-ins that are off out of the reports");
     }
 
@@ -199,6 +272,8 @@ class CommandLine {
     PluginsOptions plugins_;
     SearchOptions search_;
     InstalledOptions installed_;
+    ReportOptions report_;
+    FindOptions find_;
     std::string vstFolder_;
     OptionsOptions options_;
     std::function<int(const Environment&)> command_;

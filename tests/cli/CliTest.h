@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -57,6 +58,16 @@ class CliTest : public testing::Test {
             return {};
         const std::string value = settings.substr((record - 1) * length, length);
         return value.front() == '\0' ? "" : value.substr(0, value.find_last_not_of(' ') + 1);
+    }
+
+    /// Writes a record of the settings, 1-based.
+    void WriteSetting(std::size_t record, std::string value) const {
+        constexpr std::size_t length = 256;
+        std::string settings =
+            folder.Exists("app/settings.ini") ? folder.Read("app/settings.ini") : "";
+        value.resize(length, ' ');
+        settings.resize(std::max(settings.size(), record * length));
+        folder.Write("app/settings.ini", settings.replace((record - 1) * length, length, value));
     }
 
     std::string Songs() const { return folder.Path("songs"); }

@@ -46,6 +46,14 @@ TEST(FitToWidthTest, TextIsCutToCellsWithAnEllipsis) {
     EXPECT_EQ(FitToWidth("\xE6\x9B\xB2\xE6\x9B\xB2\xE6\x9B\xB2", 4), "\xE6\x9B\xB2\xE2\x80\xA6");
 }
 
+TEST(FitToWidthTest, OfAPathTheBeginningIsCut) {
+    EXPECT_EQ(FitToWidth("/songs/a.cpr", 6),
+              "\xE2\x80\xA6"
+              "a.cpr");
+    EXPECT_EQ(FitToWidth("C:\\songs\\a.cpr", 7), "\xE2\x80\xA6\\a.cpr");
+    EXPECT_EQ(FitToWidth("/\xE6\x9B\xB2\xE6\x9B\xB2", 4), "\xE2\x80\xA6\xE6\x9B\xB2");
+}
+
 TEST(JsonTextTest, WhatATerminalWouldActOnIsEscapedAndMeansTheSame) {
     const nlohmann::ordered_json value = {
         {"name", "\x1b[2J\x7f \xC2\x9B \xE2\x80\xAE \xF3\xA0\x80\x81 \xC3\xA9\n\"\\"}};
@@ -57,7 +65,7 @@ TEST(JsonTextTest, WhatATerminalWouldActOnIsEscapedAndMeansTheSame) {
 }
 
 TEST(TableTest, ColumnsAreAlignedByDisplayWidth) {
-    Table table({"Name", "Type", "Project"});
+    Table table({"Name", "Type", "Project"}, 60);
     table.AddRow({"\xE6\x9B\xB2", "VST", "a.cpr"});
     table.AddRow({"R\xE9verb", "DirectX", "b.cpr"});
     std::ostringstream out;
@@ -68,8 +76,28 @@ TEST(TableTest, ColumnsAreAlignedByDisplayWidth) {
               "R\xC3\xA9verb  DirectX  b.cpr\n");
 }
 
+TEST(TableTest, RowsEndWithTheirLastText) {
+    Table table({"Name", "Path"}, 60);
+    table.AddRow({"Echo", ""});
+    std::ostringstream out;
+    table.Print(out);
+    EXPECT_EQ(out.str(), "Name  Path\nEcho\n");
+}
+
+TEST(TableTest, DimmedRowsAreDimmedOrMarked) {
+    Table table({"Name", "Type"}, 60);
+    table.AddRow({"a", "VST"});
+    table.AddRow({"b", "VST"}, true);
+    std::ostringstream marked;
+    table.Print(marked);
+    EXPECT_EQ(marked.str(), "  Name  Type\n  a     VST\n* b     VST\n");
+    std::ostringstream dimmed;
+    table.Print(dimmed, true);
+    EXPECT_EQ(dimmed.str(), "Name  Type\na     VST\n\x1b[2mb     VST\x1b[0m\n");
+}
+
 TEST(TableTest, AWideTextIsCutExceptInTheLastColumn) {
-    Table table({"Name", "Project"});
+    Table table({"Name", "Project"}, 60);
     table.AddRow({std::string(70, 'n'), std::string(70, 'p')});
     std::ostringstream out;
     table.Print(out);

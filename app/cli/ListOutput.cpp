@@ -1,0 +1,121 @@
+#include "app/cli/ListOutput.h"
+
+#include <array>
+#include <ctime>
+#include <iostream>
+#include <string_view>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "app/cli/CommandSupport.h"
+#include "app/cli/Table.h"
+#include "app/cli/TerminalText.h"
+#include "core/Text.h"
+#include "platform/Terminal.h"
+#include "reports/ListPage.h"
+
+namespace marlo::cli {
+
+namespace {
+
+/// What a column is called in JSON, whatever report it belongs to.
+std::string JsonName(const std::string& header, int column) {
+    if (header == "Project")
+        return "project";
+    if (header == "Last Modified")
+        return "modified";
+    if (header == "Type")
+        return "type";
+    if (header == "Path")
+        return "path";
+    if (header == "Status")
+        return "state";
+    return column == 1 || header == "Plugin" ? "plugin" : header;
+}
+
+std::vector<std::string> CellsOf(const ResultList& list, ResultRow row) {
+    std::vector<std::string> cells = {std::string(list.Text(row))};
+    for (int subItem = 1; subItem < list.ColumnCount(); ++subItem)
+        cells.emplace_back(list.SubItem(row, subItem));
+    return cells;
+}
+
+std::vector<std::string> HeadersOf(const ResultList& list) {
+    std::vector<std::string> headers;
+    for (int column = 1; column <= list.ColumnCount(); ++column)
+        headers.push_back(list.Header(column));
+    return headers;
+}
+
+bool IsGreyed(const ResultList& list, ResultRow row) {
+    return list.Colour(row) == TextColour::Greyed;
+}
+
+void PrintTable(const ResultList& list) {
+    Table table(HeadersOf(list), MaxColumnWidth());
+    bool hasGreyedRows = false;
+    for (std::size_t position = 1; position <= list.RowCount(); ++position) {
+        const ResultRow row = list.RowAt(position);
+        table.AddRow(CellsOf(list, row), IsGreyed(list, row));
+        hasGreyedRows = hasGreyedRows || IsGreyed(list, row);
+    }
+    const bool hasColours = platform::ShowsColours(platform::Stream::Out);
+    table.Print(std::cout, hasColours);
+    if (hasGreyedRows && !hasColours)
+        std::cout << "* not installed\n";
+}
+
+void PrintJson(const ResultList& list) {
+    const std::vector<std::string> headers = HeadersOf(list);
+    auto rows = nlohmann::ordered_json::array();
+    const std::size_t count = HoldsPlaceholder(list) ? 0 : list.RowCount();
+    for (std::size_t position = 1; position <= count; ++position) {
+        const ResultRow row = list.RowAt(position);
+        const std::vector<std::string> cells = CellsOf(list, row);
+        nlohmann::ordered_json object;
+        for (std::size_t i = 0; i < cells.size(); ++i)
+            object[JsonName(headers[i], static_cast<int>(i) + 1)] = DecodeToUtf8(cells[i]);
+        object["greyed"] = IsGreyed(list, row);
+        rows.push_back(std::move(object));
+    }
+    std::cout << JsonText(rows);
+}
+
+/// As it is for a program to read, made harmless on a terminal.
+void PrintCsv(const ResultList& list) {
+    const std::string csv = ListAsCsv(list);
+    if (!platform::IsTerminal(platform::Stream::Out)) {
+        std::cout << csv;
+        return;
+    }
+    std::string_view rest = csv;
+    constexpr std::string_view lineEnd = "\r\n";
+    for (std::size_t end = rest.find(lineEnd); end != std::string_view::npos;
+         end = rest.find(lineEnd)) {
+        std::cout << Printable(rest.substr(0, end)) << '\n';
+        rest.remove_prefix(end + lineEnd.size());
+    }
+}
+
+std::string MinuteOf(const std::tm& moment) {
+    std::array<char, 32> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", &moment)};
+}
+
+}  // namespace
+
+void PrintList(const ResultPane& pane, const std::string& title, ListFormat format) {
+    switch (format) {
+        case ListFormat::Table:
+            return PrintTable(pane.lstSongs);
+        case ListFormat::Csv:
+            return PrintCsv(pane.lstSongs);
+        case ListFormat::Json:
+            return PrintJson(pane.lstSongs);
+        case ListFormat::Html:
+            std::cout << ListAsHtml(pane.lstSongs, title, MinuteOf(pane.application.clock.Now()));
+    }
+}
+
+}  // namespace marlo::cli
