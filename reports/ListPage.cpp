@@ -93,6 +93,17 @@ std::string Html(std::string_view field) {
     return html;
 }
 
+/// A cell's text, which may be broken behind the names of a path.
+std::string HtmlCell(std::string_view field) {
+    std::string html;
+    for (const char32_t character : Decode(field)) {
+        html += HtmlCharacter(character);
+        if (character == U'/' || character == U'\\')
+            html += "<wbr>";
+    }
+    return html;
+}
+
 std::string_view CellAt(const ResultList& list, ResultRow row, int column) {
     return column == 1 ? list.Text(row) : list.SubItem(row, column - 1);
 }
@@ -152,7 +163,7 @@ void WriteRows(std::ostream& page, const ResultList& list) {
         const ResultRow row = list.RowAt(position);
         page << (IsGreyed(list, row) ? "<tr class=\"greyed\">" : "<tr>");
         for (int column = 1; column <= list.ColumnCount(); ++column)
-            page << "<td>" << Html(CellAt(list, row, column)) << "</td>";
+            page << "<td>" << HtmlCell(CellAt(list, row, column)) << "</td>";
         page << "</tr>\n";
     }
     page << "</tbody>\n";
