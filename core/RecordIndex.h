@@ -31,10 +31,13 @@ class RecordIndex {
     std::optional<std::string_view> Find(std::string_view key);
 
   private:
+    bool AddRecord();
+
     const Application& application_;
     std::string relativePath_;
     MakeKey makeKey_;
     std::optional<RecordReader> file_;
+    bool hasRecord_ = false;   ///< the record that was read last is not in the table yet
     bool isComplete_ = false;  ///< the whole file was read
     TextTable keys_;
     std::vector<std::string_view> lastFields_;  ///< by the key's number

@@ -42,7 +42,7 @@ class RecordFields {
     /// Splits a record, which has to stay for as long as its fields are looked at.
     void Split(std::string_view record);
 
-    /// A field of the record, 0-based.
+    /// A field of the record, 0-based. Asked for again, it is in the same place.
     std::string_view operator[](std::size_t index);
 
   private:

@@ -170,6 +170,9 @@ std::string_view TrimSpaces(std::string_view text) {
 
 double LeadingNumber(std::string_view text) {
     const std::string_view trimmed = TrimSpaces(text);
+    // "inf" and "nan" are numbers too, to who asks for one.
+    if (trimmed.find_first_of("0123456789") > trimmed.find_first_not_of("-."))
+        return 0;
     double number = 0;
     std::from_chars(trimmed.data(), trimmed.data() + trimmed.size(), number,
                     std::chars_format::fixed);

@@ -22,7 +22,7 @@ inline std::string DecodeToUtf8(std::string_view field) {
     return platform::Utf8FromName(field);
 }
 
-/// The upper-case form of a character of the Latin, Greek, Cyrillic and Armenian scripts where
+/// The upper-case form of a letter of today's Latin, Greek, Cyrillic and Armenian alphabets where
 /// that is one character, else the character itself (so ß stays). Does not depend on the locale.
 char32_t UpperCase(char32_t character);
 

@@ -1,6 +1,7 @@
 #include "core/TextArena.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace marlo {
 
@@ -22,6 +23,11 @@ std::string_view TextArena::Copy(std::string_view text) {
     char* const copy = blocks_[current_].bytes.get() + used_;
     used_ += text.copy(copy, text.size());
     return {copy, text.size()};
+}
+
+void TextArena::Replace(const char* copy, std::string_view text) {
+    // `text` may be a part of the old one.
+    std::memmove(const_cast<char*>(copy), text.data(), text.size());
 }
 
 void TextArena::Clear() {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <functional>
+#include <limits>
+#include <stdexcept>
 #include <utility>
 
 namespace marlo {
@@ -33,6 +35,8 @@ bool TextTable::Add(std::string_view text) {
     Slot& slot = slots_[SlotFor(text, hash)];
     if (slot.number != 0)
         return false;
+    if (texts_.size() == std::numeric_limits<std::uint32_t>::max())
+        throw std::length_error("too many texts");
     texts_.push_back(arena_.Copy(text));
     slot = {static_cast<std::uint32_t>(texts_.size()), TagOf(hash)};
     return true;

@@ -23,6 +23,7 @@ class TextTable {
 
     /// Adds a copy of a text that is not in the table yet; its number is the old size.
     /// @return false when it is there already.
+    /// @throws std::length_error when there are as many texts as the table can number.
     bool Add(std::string_view text);
 
     /// Memory that lives as long as the texts.
@@ -43,7 +44,7 @@ class TextTable {
 
     TextArena arena_;
     std::vector<std::string_view> texts_;
-    std::vector<Slot> slots_;  // as many as a power of two; at least half of them are free
+    std::vector<Slot> slots_;  // as many as a power of two; at least an eighth of them are free
 };
 
 }  // namespace marlo

@@ -11,8 +11,9 @@ namespace marlo::platform {
 /// Asks the shell to do something with a file, folder or program.
 struct ShellRequest {
     std::string verb = "Open";
-    std::string file{};        ///< a document, a folder, a program, or "explorer.exe"
-    std::string parameters{};  ///< a program's one argument; empty for none
+    std::string file{};        ///< a document, a program, or "explorer.exe", by its full path
+    std::string parameters{};  ///< a program's one argument, or the folder to explore
+    bool isProgram = false;    ///< `file` was chosen as a program; anything else is never started
     std::string folder = "0";  ///< the working folder; one that does not exist does not count
     int showState = kShowNormal;
 
@@ -48,9 +49,9 @@ class Desktop {
 
     /// Starts a program, or opens a document or folder with the program for it.
     ///
-    /// Where the shell has no verbs, a program is started, anything else opened, and the working
-    /// folder and show state do not count. "explorer.exe" stands for the desktop's file manager.
-    /// No part of the request is parsed as a command.
+    /// Where the shell has no verbs, they, the working folder and the show state do not count, and
+    /// "explorer.exe" stands for the desktop's file manager. Where it tells programs from documents
+    /// by itself, `isProgram` does not count. No part of the request is parsed as a command.
     ///
     /// @return more than `kLastShellFailure` when it was done, else a number that tells why not.
     virtual int ShellExecute(const ShellRequest& request) const = 0;

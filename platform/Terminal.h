@@ -14,7 +14,7 @@ bool IsTerminal(Stream stream);
 int TerminalWidth(Stream stream);
 
 /// Whether the stream is connected to a terminal that shows colours, and the user wants them
-/// (the environment variable NO_COLOR is not set).
+/// (the environment variable NO_COLOR is not set, or empty).
 bool ShowsColours(Stream stream);
 
 /// From now on, the first interrupt key (Ctrl-C) is noted rather than ending the program; a second

@@ -19,7 +19,9 @@ namespace {
 
 /// The number that the leading digits of a text spell, rounded to a whole one; 0 without any.
 double ValueOf(const std::string& text) {
-    return text.starts_with('-') ? 0 : std::nearbyint(LeadingNumber(text));
+    const std::string_view digits = TrimSpaces(text);
+    const bool hasDigits = !digits.empty() && digits.front() >= '0' && digits.front() <= '9';
+    return hasDigits ? std::nearbyint(LeadingNumber(digits)) : 0;
 }
 
 /// A whole number in decimal.
@@ -30,7 +32,7 @@ std::string Decimal(double number) {
     return {text.data(), end.ptr};
 }
 
-/// Takes text apart from the front.
+/// Takes text in UTF-8 apart from the front.
 class Splitter {
   public:
     explicit Splitter(std::string_view rest) : rest_(rest) {}
@@ -48,12 +50,20 @@ class Splitter {
 
     /// Takes `count` characters, or as many as there are.
     std::string Take(std::size_t count) {
-        std::string taken(rest_.substr(0, count));
-        rest_.remove_prefix(taken.size());
+        std::size_t end = 0;
+        for (; count > 0 && end < rest_.size(); --count)
+            for (++end; end < rest_.size() && ContinuesCharacter(rest_[end]);)
+                ++end;
+        std::string taken(rest_.substr(0, end));
+        rest_.remove_prefix(end);
         return taken;
     }
 
   private:
+    static bool ContinuesCharacter(char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
+    }
+
     std::string_view rest_;
 };
 
@@ -108,14 +118,16 @@ std::string GeneralDate(const std::tm& moment) {
 std::string FormatDate(const Application& application, const std::string& text) {
     std::string sortable;
     RunGuarded(
-        application, [&] { return "FormatDate:" + text; }, [&] { sortable = SortableDate(text); });
+        application, [&] { return "FormatDate:" + text; },
+        [&] { sortable = SortableDate(DecodeToUtf8(text)); });
     return sortable;
 }
 
 std::string UnFormatDate(const Application& application, const std::string& text) {
     std::string display;
     RunGuarded(
-        application, [&] { return "UnFormatDate:" + text; }, [&] { display = DisplayDate(text); });
+        application, [&] { return "UnFormatDate:" + text; },
+        [&] { display = DisplayDate(DecodeToUtf8(text)); });
     return display;
 }
 

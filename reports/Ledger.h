@@ -19,7 +19,7 @@ inline constexpr std::int32_t kIcons = 2;
 
 /// The height of a band, in twips.
 /// @param textHeight of "W" in the list's font, in twips.
-/// @param twipsPerPixel of the screen, in the vertical.
+/// @param twipsPerPixel of the screen, in the vertical; not 0.
 /// @param imageHeight of the list's icons, in pixels.
 /// @param sizingKind one of `ledger`; with any other, a band is as high as the text.
 std::int32_t LedgerBandHeight(std::int32_t textHeight, std::int32_t twipsPerPixel,

@@ -21,21 +21,14 @@ std::size_t CheckedIndex(std::size_t number, std::size_t count) {
 
 }  // namespace
 
-void ResultList::Cell::SetText(std::string_view text) {
-    if (text.size() > std::numeric_limits<std::uint32_t>::max())
-        throw RunTimeError(ErrorNumber::OutOfMemory);
-    start = text.data();
-    size = static_cast<std::uint32_t>(text.size());
-}
-
 const std::string& ResultList::Header(int column) const {
     return headers_[CheckedIndex(static_cast<std::size_t>(column), headers_.size())];
 }
 
 std::int16_t ResultList::AddColumn(const std::string& header) {
+    if (headers_.size() == rowWidth_)
+        WidenRows(rowWidth_ + 1);
     headers_.push_back(header);
-    if (headers_.size() > rowWidth_)
-        WidenRows();
     return static_cast<std::int16_t>(headers_.size());
 }
 
@@ -53,16 +46,18 @@ ResultRow ResultList::AddRow(std::string_view key, std::string_view text) {
 
 std::optional<ResultRow> ResultList::AddRowUnlessThere(std::string_view key,
                                                        std::string_view text) {
+    const std::size_t count = RowCount();
+    // The key comes last, as it makes the row; what it does not get to is left for another row.
+    icons_.resize(count + 1);
+    cells_.resize((count + 1) * rowWidth_);
+    // A key mostly begins with the text.
+    const bool isInKey = key.starts_with(text);
+    const std::string_view ownText = isInKey ? std::string_view() : keys_.Arena().Copy(text);
     if (!keys_.Add(key))
         return std::nullopt;
-    const auto row = static_cast<ResultRow>(icons_.size());
-    icons_.push_back(0);
-    cells_.resize(cells_.size() + rowWidth_);
-    isSettled_ = false;
-    // A key mostly begins with the text.
-    const std::string_view ownKey = Key(row);
-    CellOf(row, 0).SetText(ownKey.starts_with(text) ? ownKey.substr(0, text.size())
-                                                    : keys_.Arena().Copy(text));
+    const auto row = static_cast<ResultRow>(count);
+    const std::string_view shown = isInKey ? Key(row).substr(0, text.size()) : ownText;
+    CellOf(row, 0) = {.start = shown.data(), .size = static_cast<std::uint32_t>(shown.size())};
     return row;
 }
 
@@ -72,7 +67,6 @@ void ResultList::ClearRows() {
     cells_.clear();
     rowWidth_ = std::max<std::size_t>(headers_.size(), 1);
     positions_.clear();
-    isSettled_ = true;
     selected_.reset();
 }
 
@@ -86,7 +80,19 @@ std::string_view ResultList::SubItem(ResultRow row, int subItem) const {
 }
 
 void ResultList::SetSubItem(ResultRow row, int subItem, std::string_view text) {
-    CellOf(row, CheckedSubItem(subItem)).SetText(keys_.Arena().Copy(text));
+    Cell& cell = CellOf(row, CheckedSubItem(subItem));
+    const std::size_t available = std::size_t{cell.size} + cell.spare;
+    isOrdered_ = false;
+    // Dates are converted to and fro at each click on their column, which should not take memory.
+    if (text.size() > available) {
+        cell.start = keys_.Arena().Copy(text).data();
+        cell.spare = 0;
+    } else {
+        keys_.Arena().Replace(cell.start, text);
+        cell.spare = static_cast<std::uint16_t>(std::min<std::size_t>(
+            available - text.size(), std::numeric_limits<std::uint16_t>::max()));
+    }
+    cell.size = static_cast<std::uint32_t>(text.size());
 }
 
 TextColour ResultList::SubItemColour(ResultRow row, int subItem) const {
@@ -112,33 +118,39 @@ ResultList::Cell& ResultList::CellOf(ResultRow row, std::size_t column) {
     return cells_[Index(row) * rowWidth_ + column];
 }
 
-/// Gives each row a cell for every column.
-void ResultList::WidenRows() {
-    std::vector<Cell> cells(RowCount() * headers_.size());
+/// Gives each row as many cells.
+void ResultList::WidenRows(std::size_t width) {
+    std::vector<Cell> cells(RowCount() * width);
     for (std::size_t row = 0; row < RowCount(); ++row)
         std::copy_n(cells_.begin() + static_cast<std::ptrdiff_t>(row * rowWidth_), rowWidth_,
-                    cells.begin() + static_cast<std::ptrdiff_t>(row * headers_.size()));
+                    cells.begin() + static_cast<std::ptrdiff_t>(row * width));
     cells_ = std::move(cells);
-    rowWidth_ = headers_.size();
+    rowWidth_ = width;
 }
 
 void ResultList::SetSortKey(int column) {
     Settle();
-    isSettled_ = column == sortKey_;
+    if (column == sortKey_)
+        return;
     sortKey_ = column;
+    isOrdered_ = false;
+    isOrderDue_ = isSorted_;
 }
 
 void ResultList::SetOrder(SortOrder order) {
-    Settle();
-    isSettled_ = order == order_;
+    PlaceNewRows();
+    if (order == order_)
+        return;
     order_ = order;
+    isOrdered_ = false;
+    isOrderDue_ = isSorted_;
 }
 
 void ResultList::SetSorted(bool isSorted) {
     Settle();
-    isSettled_ = isSorted == isSorted_;
+    if (isSorted && !isOrdered_)
+        PutInOrder();
     isSorted_ = isSorted;
-    Settle();
 }
 
 ResultRow ResultList::SelectedRow() const {
@@ -147,17 +159,27 @@ ResultRow ResultList::SelectedRow() const {
     return *selected_;
 }
 
-/// Gives the rows that were added their places.
-void ResultList::Settle() const {
-    if (isSettled_)
-        return;
+/// Gives the rows that were added since somebody looked their places.
+void ResultList::PlaceNewRows() const {
     const std::size_t placed = positions_.size();
+    if (placed == RowCount())
+        return;
     positions_.resize(RowCount());
     std::iota(positions_.begin() + static_cast<std::ptrdiff_t>(placed), positions_.end(),
               static_cast<std::uint32_t>(placed));
-    isSettled_ = true;
-    if (!isSorted_)
-        return;
+    isOrdered_ = false;
+    isOrderDue_ = isSorted_;
+    Settle();
+}
+
+/// Gives every row its place.
+void ResultList::Settle() const {
+    PlaceNewRows();
+    if (isOrderDue_)
+        PutInOrder();
+}
+
+void ResultList::PutInOrder() const {
     // A sort key beyond the columns orders nothing.
     const auto column = static_cast<std::size_t>(sortKey_);
     TextOrder order(positions_.size());
@@ -168,6 +190,8 @@ void ResultList::Settle() const {
     for (std::uint32_t& number : ordered)
         number = positions_[number];
     positions_ = std::move(ordered);
+    isOrdered_ = true;
+    isOrderDue_ = false;
 }
 
 }  // namespace marlo

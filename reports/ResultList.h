@@ -26,7 +26,8 @@ enum class ResultRow : std::uint32_t {};
 /// Columns and positions are counted from 1, as the list's users do. Where a list control would
 /// fail, the routines here throw a `RunTimeError`: "Subscript out of range" for a column, position
 /// or sub-item that does not exist, "Key is not unique in collection" for a key that is there
-/// already. Texts that are handed out stay until the rows are cleared.
+/// already. A text that is handed out stays until its cell is set again or the rows are cleared.
+/// A routine that runs out of memory leaves the list as it was.
 class ResultList {
   public:
     int ColumnCount() const { return static_cast<int>(headers_.size()); }
@@ -36,7 +37,7 @@ class ResultList {
     /// The cells of the rows stay where they are.
     void RemoveColumn(int column);
 
-    std::size_t RowCount() const { return icons_.size(); }
+    std::size_t RowCount() const { return keys_.Size(); }
     /// Adds a row at the end, or in its place while the list is sorted.
     ResultRow AddRow(std::string_view key, std::string_view text);
     /// The same; adds nothing when a row has exactly that key.
@@ -82,22 +83,25 @@ class ResultList {
     void SelectNone() { selected_.reset(); }
 
   private:
-    /// A view of a text, and its colour, in as little memory as possible: lists are long.
+    /// A text, which lives elsewhere, and its colour, in as little memory as possible: lists are
+    /// long.
     struct Cell {
         const char* start = nullptr;
         std::uint32_t size = 0;
+        std::uint16_t spare = 0;  ///< bytes behind the text that are the cell's too
         TextColour colour = TextColour::Normal;
 
         std::string_view Text() const { return {start, size}; }
-        void SetText(std::string_view text);
     };
 
     static std::size_t Index(ResultRow row) { return static_cast<std::size_t>(row); }
     std::size_t CheckedSubItem(int subItem) const;
     const Cell& CellOf(ResultRow row, std::size_t column) const;
     Cell& CellOf(ResultRow row, std::size_t column);
-    void WidenRows();
+    void WidenRows(std::size_t width);
+    void PlaceNewRows() const;
     void Settle() const;
+    void PutInOrder() const;
 
     std::vector<std::string> headers_;
     TextTable keys_;  ///< numbered as the rows are; the cells' texts live in its memory
@@ -109,7 +113,8 @@ class ResultList {
     int sortKey_ = 0;
     SortOrder order_ = SortOrder::Ascending;
     bool isSorted_ = false;
-    mutable bool isSettled_ = true;  ///< every row has its place
+    mutable bool isOrdered_ = false;   ///< nothing has changed since the rows were put in order
+    mutable bool isOrderDue_ = false;  ///< they have to be put in order before anybody looks
     bool isVisible_ = true;
     std::optional<ResultRow> selected_;
 };

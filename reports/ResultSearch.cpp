@@ -35,14 +35,6 @@ OptionalColumns AddColumns(ResultList& list, const IgnoreSettings& ignore) {
     return columns;
 }
 
-/// A line of fln.csv.
-struct ProjectPlugin {
-    std::string project;
-    std::string name;
-    std::string type;
-    std::string state;
-};
-
 /// Whether the search finds a line.
 bool IsHit(RecordReader& line, const SearchPane& search, SearchMatch& match,
            const IgnoreSettings& ignore) {
@@ -68,21 +60,24 @@ void SearchResultFiles(ResultPane& pane, const SearchPane& search, std::int16_t 
         SearchMatch match(search.cboSearchType, search.txtSearchText, search.chkIgnoreCase);
         RecordReader lines(pane.application, "\\resultfiles\\fln.csv", 4);
         InstalledPlugins installed(pane.application);
+        std::string key;
         while (lines.Next()) {
             if (!IsHit(lines, search, match, ignore))
                 continue;
-            const ProjectPlugin hit{std::string(lines[0]), std::string(lines[1]),
-                                    std::string(lines[2]), std::string(lines[3])};
-            const ResultRow row =
-                list.AddRow(hit.project + hit.name + hit.type + hit.state, hit.project);
+            const std::string project(lines[0]);
+            const std::string_view name = lines[1];
+            const std::string_view type = lines[2];
+            const std::string_view state = lines[3];
+            key.assign(project).append(name).append(type).append(state);
+            const ResultRow row = list.AddRow(key, project);
             list.SetSmallIcon(row, kRowIcon);
-            list.SetSubItem(row, kModifiedColumn - 1, ModifiedText(hit.project));
-            list.SetSubItem(row, kPluginColumn - 1, hit.name);
+            list.SetSubItem(row, kModifiedColumn - 1, ModifiedText(project));
+            list.SetSubItem(row, kPluginColumn - 1, name);
             if (!ignore.directX)
-                list.SetSubItem(row, typeColumn - 1, hit.type);
+                list.SetSubItem(row, typeColumn - 1, type);
             if (!ignore.off)
-                list.SetSubItem(row, statusColumn - 1, hit.state);
-            if (!installed.PluginIsInstalled(hit.name))
+                list.SetSubItem(row, statusColumn - 1, state);
+            if (!installed.PluginIsInstalled(name))
                 GreyRow(list, row);
         }
         AddPlaceholderIfEmpty(list, kNoProjects);

@@ -19,7 +19,7 @@ void OpenInCsvProgram(const Application& application, MainWindow& window,
     const std::string path =
         ApplicationPath(application, std::string("\\resultfiles\\").append(TrimSpaces(fileName)));
     const int answer = application.desktop.ShellExecute(
-        {.file = program, .parameters = GetShortPath(application, path)});
+        {.file = program, .parameters = GetShortPath(application, path), .isProgram = true});
     if (answer <= platform::kLastShellFailure)
         window.ShowMessage(
             {.text = "Cannot open the file at the moment", .icon = MessageIcon::Information});

@@ -129,7 +129,7 @@ std::optional<std::string> ParentPath(const std::string& path) {
     const std::size_t separator = path.find_last_of(path.starts_with('/') ? "/" : "/\\");
     if (separator == std::string::npos)
         return std::nullopt;
-    return separator == 0 ? path.substr(0, 1) : path.substr(0, separator);
+    return path.substr(0, separator == 0 && path.front() == '/' ? 1 : separator);
 }
 
 std::string FullPath(const std::string& path, std::error_code& error) {

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "platform/linux/Gio.h"
 #include "platform/linux/PosixError.h"
@@ -46,6 +45,12 @@ std::optional<mode_t> ModeOf(const std::string& path) {
     return status.st_mode;
 }
 
+int StartProgram(const std::string& program, const std::string& argument) {
+    if (!ModeOf(program) || argument.find('\0') != std::string::npos)
+        return kFileNotFound;
+    return GioStart(program, argument) ? kDone : kAccessDenied;
+}
+
 }  // namespace
 
 std::string LinuxDesktop::FileTypeDescription(const std::string& path, FileKind kind,
@@ -69,16 +74,13 @@ std::optional<std::string> LinuxDesktop::ProgramForExtension(const std::string& 
 }
 
 int LinuxDesktop::ShellExecute(const ShellRequest& request) const {
+    if (request.isProgram)
+        return StartProgram(request.file, request.parameters);
     const bool isFolder = request.file == "explorer.exe";
     const std::string& path = isFolder ? request.parameters : request.file;
     const auto mode = ModeOf(path);
     if (!mode || (isFolder && !S_ISDIR(*mode)))
         return kFileNotFound;
-    // On some volumes every file may be executed; a project is never a program.
-    const bool isProgram =
-        S_ISREG(*mode) && DescriptionOf(path).empty() && access(path.c_str(), X_OK) == 0;
-    if (isProgram)
-        return GioStart(path, request.parameters) ? kDone : kAccessDenied;
     return GioOpen(path) ? kDone : kNoAssociation;
 }
 

@@ -11,18 +11,10 @@ namespace {
 class UsageTest : public test::CliTest {};
 
 TEST_F(UsageTest, HelpAndVersionAreThereForTheProgramAndForEachCommand) {
-    const std::vector<std::vector<std::string>> commands = {{},
-                                                            {"plugins"},
-                                                            {"search"},
-                                                            {"installed"},
-                                                            {"report"},
-                                                            {"find"},
-                                                            {"folders"},
-                                                            {"folders", "list"},
-                                                            {"folders", "add"},
-                                                            {"folders", "remove"},
-                                                            {"options"},
-                                                            {"log"}};
+    const std::vector<std::vector<std::string>> commands = {
+        {},          {"plugins"}, {"search"},          {"installed"},      {"report"},
+        {"find"},    {"folders"}, {"folders", "list"}, {"folders", "add"}, {"folders", "remove"},
+        {"options"}, {"log"}};
     for (auto command : commands) {
         command.emplace_back("--help");
         const auto help = Marlo(command);

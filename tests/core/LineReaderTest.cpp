@@ -55,6 +55,15 @@ TEST_F(LineReaderTest, LinesMayBeLongerThanWhatIsReadAtOnce) {
     EXPECT_EQ(Read(a + "\r\n" + b + "\r\nc\r\n" + a), (Lines{a, b, "c", a}));
 }
 
+TEST_F(LineReaderTest, AFileThatCannotBeReadIsAFailureEachTime) {
+    // The start of a process's memory cannot be read, though the file can be opened.
+    LineReader reader("/proc/self/mem");
+    for (int i = 0; i < 2; ++i) {
+        std::string_view line;
+        EXPECT_THROW(reader.Next(line), RunTimeError);
+    }
+}
+
 TEST_F(LineReaderTest, AMissingFileOrAFolderIsAFailure) {
     EXPECT_EQ(FailureOf(folder.Path("gone")), ErrorNumber::FileNotFound);
     EXPECT_EQ(FailureOf(folder.Path()), ErrorNumber::PathFileAccess);

@@ -1,4 +1,5 @@
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -44,6 +45,27 @@ TEST(TextTableTest, ATextLargerThanWhatIsAllocatedAtOnceIsKeptWhole) {
     EXPECT_EQ(table[1], large);
     EXPECT_EQ(table.Find(large), 1U);
     EXPECT_EQ(table.Find("another"), 2U);
+}
+
+TEST(TextArenaTest, MemoryIsUsedAgainAfterClearing) {
+    TextArena arena;
+    const std::string large(1'000'000, 'x');
+    const char* const first = arena.Copy("first").data();
+    arena.Copy(large);
+    arena.Clear();
+    std::vector<std::string_view> copies;
+    for (int i = 0; i < 100'000; ++i)
+        copies.push_back(arena.Copy(std::to_string(i)));
+    EXPECT_EQ(copies.front().data(), first);
+    for (int i = 0; i < 100'000; ++i)
+        ASSERT_EQ(copies[static_cast<std::size_t>(i)], std::to_string(i));
+}
+
+TEST(TextArenaTest, ACopyMayBeReplacedByAPartOfItself) {
+    TextArena arena;
+    const std::string_view copy = arena.Copy("abcdef");
+    arena.Replace(copy.data(), copy.substr(2));
+    EXPECT_EQ(copy, "cdefef");
 }
 
 TEST(TextTableTest, AClearedTableForgetsItsTextsAndTakesOthers) {

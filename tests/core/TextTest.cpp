@@ -85,7 +85,10 @@ TEST(TextTest, ALeadingNumberIsReadAsFarAsItGoes) {
     EXPECT_EQ(LeadingNumber("11-15-2026 03:10:00"), 11);
     EXPECT_EQ(LeadingNumber(" 2.5x"), 2.5);
     EXPECT_EQ(LeadingNumber("-3"), -3);
+    EXPECT_EQ(LeadingNumber("-.5"), -0.5);
     EXPECT_EQ(LeadingNumber("x1"), 0);
+    EXPECT_EQ(LeadingNumber("inf1"), 0);
+    EXPECT_EQ(LeadingNumber("-nan"), 0);
     EXPECT_EQ(LeadingNumber(""), 0);
 }
 

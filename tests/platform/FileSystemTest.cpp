@@ -150,6 +150,7 @@ TEST(ParentPathTest, IsWhatStandsInFrontOfTheLastSeparator) {
     EXPECT_EQ(ParentPath("C:\\vst\\Reverb.dll"), "C:\\vst");
     EXPECT_EQ(ParentPath("vst/Reverb.dll"), "vst");
     EXPECT_EQ(ParentPath("/Reverb.dll"), "/");
+    EXPECT_EQ(ParentPath("\\Reverb.dll"), "");
 }
 
 TEST(ParentPathTest, APathWithoutSeparatorHasNone) {

@@ -99,32 +99,51 @@ class ShellTest : public DesktopTest {
 
 TEST_F(ShellTest, AProgramGetsItsParametersAsOneArgumentWhateverIsInThem) {
     const std::string hostile = folder.Write("a b'\"$(touch x);`y` \\ \n%f.csv", "");
-    EXPECT_GT(Ask({.file = made.Program(), .parameters = hostile}), kLastShellFailure);
+    EXPECT_GT(Ask({.file = made.Program(), .parameters = hostile, .isProgram = true}),
+              kLastShellFailure);
     EXPECT_EQ(made.TakeNote(), "1|" + hostile + "|");
 }
 
 TEST_F(ShellTest, AProgramWithoutParametersIsStartedWithoutArguments) {
-    EXPECT_GT(Ask({.file = made.Program()}), kLastShellFailure);
+    EXPECT_GT(Ask({.file = made.Program(), .isProgram = true}), kLastShellFailure);
     EXPECT_EQ(made.TakeNote(), "0|");
 }
 
-TEST_F(ShellTest, AProjectIsOpenedByTheProgramForItEvenWhereItMayBeExecuted) {
-    const std::string project = folder.Write("a 曲 $x.cpr", "#!/bin/sh\ntouch executed\n");
-    std::filesystem::permissions(project, std::filesystem::perms::owner_all);
-    EXPECT_GT(Ask({.file = project}), kLastShellFailure);
-    EXPECT_EQ(made.TakeNote(), "1|" + project + "|");
+TEST_F(ShellTest, AProjectIsOpenedByTheProgramForItAndNeverExecuted) {
+    for (const std::string name : {"a 曲 $x.cpr", "-rf.cpr", "a\n%f\\\xE9.cpr"}) {
+        const std::string project =
+            folder.Write(name, "#!/bin/sh\ntouch '" + folder.Path("executed") + "'\n");
+        std::filesystem::permissions(project, std::filesystem::perms::owner_all);
+        EXPECT_GT(Ask({.file = project}), kLastShellFailure);
+        EXPECT_EQ(made.TakeNote(), "1|" + project + "|");
+    }
+    EXPECT_FALSE(folder.Exists("executed"));
+}
+
+TEST_F(ShellTest, AnExecutableFileThatWasNotChosenAsAProgramIsNotStarted) {
+    const std::string song = folder.Write("song", "touch '" + folder.Path("executed") + "'\n");
+    std::filesystem::permissions(song, std::filesystem::perms::owner_all);
+    EXPECT_EQ(Ask({.file = song}), 31);
+    EXPECT_EQ(Ask({.file = made.Program()}), 31);
+    EXPECT_FALSE(folder.Exists("executed"));
 }
 
 TEST_F(ShellTest, TheExplorerShowsAFolder) {
-    const std::string songs = folder.MakeFolder("songs; and more");
-    EXPECT_GT(Ask({.file = "explorer.exe", .parameters = songs}), kLastShellFailure);
-    EXPECT_EQ(made.TakeNote(), "1|" + songs + "|");
+    for (const std::string name : {"songs; and more", "-x", "a\n%f\\\xE9\"$(y)"}) {
+        const std::string songs = folder.MakeFolder(name);
+        EXPECT_GT(Ask({.file = "explorer.exe", .parameters = songs}), kLastShellFailure);
+        EXPECT_EQ(made.TakeNote(), "1|" + songs + "|");
+    }
 }
 
 TEST_F(ShellTest, WhatIsNotThereIsNotFound) {
+    const std::string nul("\0x", 2);
     EXPECT_EQ(Ask({.file = folder.Path("gone.cpr")}), 2);
     EXPECT_EQ(Ask({.file = ""}), 2);
-    EXPECT_EQ(Ask({.file = made.Program() + std::string("\0x", 2)}), 2);
+    EXPECT_EQ(Ask({.file = folder.Write("a.cpr", "") + nul}), 2);
+    EXPECT_EQ(Ask({.file = folder.Path("gone"), .isProgram = true}), 2);
+    EXPECT_EQ(Ask({.file = made.Program() + nul, .isProgram = true}), 2);
+    EXPECT_EQ(Ask({.file = made.Program(), .parameters = "a" + nul, .isProgram = true}), 2);
     EXPECT_EQ(Ask({.file = "explorer.exe", .parameters = folder.Path("gone")}), 2);
     EXPECT_EQ(Ask({.file = "explorer.exe", .parameters = made.Program()}), 2) << "no folder";
 }
@@ -135,8 +154,9 @@ TEST_F(ShellTest, ADocumentWithoutAProgramHasNoAssociation) {
 
 TEST_F(ShellTest, AProgramThatCannotBeStartedIsAFailure) {
     const std::string broken = folder.Write("broken", "#!/nowhere/interpreter\n");
+    EXPECT_EQ(Ask({.file = broken, .isProgram = true}), 5) << "it may not be executed";
     std::filesystem::permissions(broken, std::filesystem::perms::owner_all);
-    EXPECT_LE(Ask({.file = broken}), kLastShellFailure);
+    EXPECT_EQ(Ask({.file = broken, .isProgram = true}), 5);
 }
 
 TEST_F(ShellTest, AShortPathIsThePathItselfOrNothing) {

@@ -83,6 +83,22 @@ TEST_F(DateTextTest, ATextThatIsNoDateIsLoggedWithItself) {
 TEST_F(DateTextTest, PartsThatAreNoNumbersCountAsZero) {
     EXPECT_EQ(Format("x/y/z h:m:s"), "z000000ms") << "month, day and hour are put in order";
     EXPECT_EQ(Format("-1/2/2006 1:00:00 AM"), "20060002010000");
+    EXPECT_EQ(Format(" -1/inf/2006 nan:00:00 AM"), "20060000000000");
+}
+
+TEST_F(DateTextTest, PartsOfANumberAreRounded) {
+    EXPECT_EQ(Format("1.6/9.4/2006 1.4:00:00 AM"), "20060209010000");
+    EXPECT_EQ(Format("9.6/9/2006 9.6:00:00 AM"), "20069.609100000") << "10 keeps its text";
+}
+
+TEST_F(DateTextTest, PartsAreCountedInCharacters) {
+    EXPECT_EQ(Format("1/2/2006 3:04:éé AM"),
+              "2006010203"
+              "04éé");
+    EXPECT_EQ(Format("1/2/2006 3:04:\xE9\xE9 AM"),
+              "2006010203"
+              "04éé");
+    EXPECT_EQ(UnFormat("éééé1122334455"), "11/22/éééé 21:44:55 PM");
 }
 
 TEST_F(DateTextTest, LongPartsStay) {

@@ -207,15 +207,58 @@ TEST_F(ResultListTest, RowsAddedAfterSortingWasSwitchedOffStayBehindTheOthers) {
 TEST_F(ResultListTest, CellsThatChangeAfterSortingMoveNoRow) {
     list.AddColumn("Name");
     list.AddColumn("Date");
-    for (const std::string name : {"a", "b"})
-        list.SetSubItem(list.AddRow(name, name), 1, name);
+    const ResultRow first = list.AddRow("a", "a");
+    list.SetSubItem(first, 1, "a");
+    list.SetSubItem(list.AddRow("b", "b"), 1, "b");
     list.SetSortKey(1);
     list.SetSorted(true);
-    list.SetSubItem(list.RowAt(1), 1, "z");
+    list.SetSubItem(first, 1, "z");
+    EXPECT_EQ(Shown(), (Texts{"a", "b"}));
     list.SetSorted(false);
     EXPECT_EQ(Shown(), (Texts{"a", "b"}));
+}
+
+TEST_F(ResultListTest, SwitchingSortingOnOrdersTheRowsByTheirCellsAsTheyAreThen) {
+    list.AddColumn("Name");
+    list.AddColumn("Date");
+    const ResultRow first = list.AddRow("a", "a");
+    list.SetSubItem(first, 1, "1");
+    list.SetSubItem(list.AddRow("b", "b"), 1, "2");
+    list.SetSortKey(1);
     list.SetSorted(true);
-    EXPECT_EQ(Shown(), (Texts{"b", "a"}));
+    list.SetSubItem(first, 1, "3");
+    list.SetSorted(true);
+    EXPECT_EQ(Shown(), (Texts{"b", "a"})) << "also where it was on";
+    list.SetSubItem(first, 1, "1");
+    list.SetSorted(false);
+    list.SetSorted(true);
+    EXPECT_EQ(Shown(), (Texts{"a", "b"}));
+}
+
+TEST_F(ResultListTest, AnotherKeyOrOrderOfASortedListOrdersItAtOnce) {
+    list.AddColumn("Name");
+    list.AddColumn("Type");
+    for (const std::string name : {"a1", "b2", "c1", "d2"})
+        list.SetSubItem(list.AddRow(name, name), 1, name.substr(1));
+    list.SetSorted(true);
+    list.SetOrder(SortOrder::Descending);
+    list.SetSortKey(1);
+    EXPECT_EQ(Shown(), (Texts{"d2", "b2", "c1", "a1"}))
+        << "rows of one type in the order in which they were, though nobody looked";
+}
+
+TEST_F(ResultListTest, ACellThatIsSetAgainMayBeShorterOrLonger) {
+    list.AddColumn("A");
+    list.AddColumn("B");
+    const ResultRow row = list.AddRow("key", "text");
+    const std::string longText(70'000, 'x');
+    for (const std::string& text : {std::string("first"), longText, std::string("second"),
+                                    std::string(), std::string("third"), longText}) {
+        list.SetSubItem(row, 1, text);
+        EXPECT_EQ(list.SubItem(row, 1), text);
+    }
+    EXPECT_EQ(list.Text(row), "text");
+    EXPECT_EQ(list.Key(row), "key");
 }
 
 TEST_F(ResultListTest, ASortKeyWithoutAColumnChangesNothing) {

@@ -8,6 +8,7 @@
 #include "core/Records.h"
 #include "core/RunTimeError.h"
 #include "core/Settings.h"
+#include "core/Text.h"
 #include "platform/File.h"
 #include "platform/FileSystem.h"
 #include "reports/DateText.h"
@@ -204,25 +205,29 @@ void LiteralReports::ShowUninstalledPlugins(int typeColumn, int statusColumn) {
     });
 }
 
-void LiteralReports::SearchResultFiles(const std::string& matchType, const std::string& searchText,
-                                       bool byProject, int typeColumn, int statusColumn) {
+void LiteralReports::SearchResultFiles(const SearchPane& search, int typeColumn, int statusColumn) {
     Run("SearchResultFiles", [&] {
         const bool ignoreDirectX = Ignores(20);
         const bool ignoreOff = Ignores(21);
+        const auto comparable = [&](const std::string& text) {
+            return search.chkIgnoreCase ? UpperCase(Decode(text)) : Decode(text);
+        };
+        const std::u32string text = comparable(search.txtSearchText);
         for (const std::string& line : Lines("fln.csv")) {
             const Fields use = Split(line, true, 4);
             if (ignoreDirectX && use[2] == "DirectX")
                 continue;
-            const std::string value = byProject ? use[0] : use[1];
+            const std::u32string value =
+                comparable(search.mode == "List Plugins in Project" ? use[0] : use[1]);
             if (use[3] == "Off" && ignoreOff)
                 continue;
-            const std::size_t found = value.empty() ? std::string::npos : value.find(searchText);
-            const std::size_t position = found + 1;  // counted from 1, and 0 for nowhere
-            const bool matches = (matchType == "Exact match" && value == searchText) ||
-                                 (matchType == "Starts with" && position == 1) ||
-                                 (matchType == "Ends with" && position != 0 &&
-                                  position + searchText.size() - 1 == value.size()) ||
-                                 (matchType == "Contains" && position != 0);
+            // Counted from 1, and 0 for nowhere.
+            const std::size_t position = value.empty() ? 0 : value.find(text) + 1;
+            const bool matches = (search.cboSearchType == "Exact match" && value == text) ||
+                                 (search.cboSearchType == "Starts with" && position == 1) ||
+                                 (search.cboSearchType == "Ends with" && position != 0 &&
+                                  position + text.size() - 1 == value.size()) ||
+                                 (search.cboSearchType == "Contains" && position != 0);
             if (!matches)
                 continue;
             LiteralRow& row = Add(use[0] + use[1] + use[2] + use[3], use[0]);

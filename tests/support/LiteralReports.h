@@ -6,6 +6,7 @@
 
 #include "core/Application.h"
 #include "core/MainWindow.h"
+#include "reports/ResultSearch.h"
 
 namespace marlo::test {
 
@@ -32,9 +33,7 @@ class LiteralReports {
     void ShowUnusedPlugins(int typeColumn, int pathColumn);
     void ShowUninstalledPlugins(int typeColumn, int statusColumn);
 
-    /// @param byProject whether the search text is compared with the project.
-    void SearchResultFiles(const std::string& matchType, const std::string& searchText,
-                           bool byProject, int typeColumn, int statusColumn);
+    void SearchResultFiles(const SearchPane& search, int typeColumn, int statusColumn);
 
     const std::vector<LiteralRow>& Rows() const { return rows_; }
 

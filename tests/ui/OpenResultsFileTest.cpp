@@ -34,6 +34,7 @@ TEST_F(OpenResultsFileTest, TheChosenProgramGetsTheShortPathAsItsParameters) {
     EXPECT_EQ(request.verb, "Open");
     EXPECT_EQ(request.file, "/usr/bin/sheet");
     EXPECT_EQ(request.parameters, "short:" + folder.Path("resultfiles/fln.csv"));
+    EXPECT_TRUE(request.isProgram);
     EXPECT_EQ(request.folder, "0");
     EXPECT_EQ(request.showState, 1);
     EXPECT_TRUE(window.messages.empty());

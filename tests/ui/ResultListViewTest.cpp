@@ -205,6 +205,7 @@ TEST_F(DoubleClickTest, AProjectIsOpenedItself) {
     DoubleClick();
     EXPECT_EQ(Request().verb, "Open");
     EXPECT_EQ(Request().file, "/songs/a b.cpr");
+    EXPECT_FALSE(Request().isProgram) << "it is never executed";
     EXPECT_EQ(Request().parameters, "");
     EXPECT_EQ(Request().folder, "0");
     EXPECT_EQ(Request().showState, 1);
