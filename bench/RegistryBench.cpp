@@ -65,7 +65,8 @@ void AskList(State& state, int questions) {
     file.close();
     for (auto iteration : state) {
         InstalledPlugins installed(application);
-        for (int i = 0; i < questions; ++i)
+        // The first one asks for a plug-in that is not there, which reads the whole list.
+        for (int i = 1999; i < 1999 + questions; ++i)
             if (installed.PluginIsInstalled("Plug-in " + std::to_string(i % 2000)) !=
                 (i % 2000 < 1000))
                 throw std::runtime_error("a wrong answer");
@@ -99,7 +100,7 @@ const bool registered = [] {
     Compare({.what = "100,000 questions to a list of 1,000 plug-ins, against 1 (which reads it)",
              .numerator = "list-100000-questions",
              .denominator = "list-1-question",
-             .atMost = 5000});
+             .atMost = 200});
     return true;
 }();
 

@@ -1,10 +1,17 @@
+#include <array>
+#include <cstdlib>
+#include <ctime>
 #include <exception>
+#include <fcntl.h>
 #include <string>
+#include <sys/stat.h>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "core/RunTimeError.h"
 #include "reports/ReportView.h"
+#include "reports/ResultSearch.h"
 #include "tests/support/ReportTest.h"
 #include "ui/ResultListView.h"
 
@@ -93,6 +100,29 @@ TEST_F(ColumnClickTest, DatesSortByTimeAndComeBackWithoutTheirZeros) {
     EXPECT_EQ(SecondCells(),
               (Texts{"1/5/2006 1:07:09 AM", "12/2/2006 12:30:00 PM", "3/1/2007 1:05:00 AM"}));
     EXPECT_EQ(Names().front(), "10/5/2006 10:07:09 AM") << "only the second column changes";
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(ColumnClickTest, AfterAReportAndASearchTheFirstClickOnTheDatesSortsThemDescending) {
+    setenv("TZ", "UTC0", 1);
+    tzset();
+    ShowReport();
+    std::vector<Texts> uses;
+    const std::vector<std::time_t> moments = {1162050312, 1166617800, 1160042829};
+    for (std::size_t i = 0; i < moments.size(); ++i) {
+        const std::string project = folder.Write(std::to_string(i) + ".cpr", "");
+        const timespec time{moments[i], 0};
+        const std::array<timespec, 2> times = {time, time};
+        EXPECT_EQ(utimensat(AT_FDCWD, project.c_str(), times.data(), 0), 0);
+        uses.push_back({project, "b", "VST", "On"});
+    }
+    WriteRecords("fln.csv", uses);
+    cmdFind_Click(pane, {.txtSearchText = "b"});
+    EXPECT_EQ(SecondCells(),
+              (Texts{"10/28/2006 3:45:12 PM", "12/20/2006 12:30:00 PM", "10/5/2006 10:07:09 AM"}));
+    Click(2);
+    EXPECT_EQ(SecondCells(),
+              (Texts{"12/2/2006 12:30:00 PM", "1/28/2006 3:45:12 PM", "1/5/2006 1:07:09 AM"}));
     EXPECT_EQ(Log(), "");
 }
 
