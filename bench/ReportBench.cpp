@@ -72,8 +72,8 @@ std::vector<std::string> Names() {
 
 void FillList(ResultList& list, const std::vector<std::string>& names) {
     list.AddColumn("Plugin");
-    for (std::size_t i = 0; i < names.size(); ++i)
-        list.AddRow(names[i], names[i]);
+    for (const std::string& name : names)
+        list.AddRow(name, name);
 }
 
 void SortTexts(State& state) {

@@ -1,7 +1,7 @@
 #include "core/TextArena.h"
 
 #include <algorithm>
-#include <cstring>
+#include <string>
 
 namespace marlo {
 
@@ -27,7 +27,7 @@ std::string_view TextArena::Copy(std::string_view text) {
 
 void TextArena::Replace(const char* copy, std::string_view text) {
     // `text` may be a part of the old one.
-    std::memmove(const_cast<char*>(copy), text.data(), text.size());
+    std::char_traits<char>::move(const_cast<char*>(copy), text.data(), text.size());
 }
 
 void TextArena::Clear() {

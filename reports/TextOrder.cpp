@@ -44,8 +44,10 @@ int TextOrder::Compare(const Entry& left, const Entry& right) const {
 
 std::vector<std::uint32_t> TextOrder::Numbers(bool isDescending) {
     std::sort(entries_.begin(), entries_.end(), [&](const Entry& left, const Entry& right) {
-        const int difference = isDescending ? Compare(right, left) : Compare(left, right);
-        return difference < 0 || (difference == 0 && left.number < right.number);
+        const int difference = Compare(left, right);
+        if (difference == 0)
+            return left.number < right.number;
+        return isDescending ? difference > 0 : difference < 0;
     });
     std::vector<std::uint32_t> numbers;
     numbers.reserve(entries_.size());

@@ -33,7 +33,7 @@ class ResultSearchTest : public test::ReportTest {
 
     /// Makes a project file that was changed at `kDate`. @return its path.
     std::string Project(const std::string& name) const {
-        const std::string path = folder.Write(name, "");
+        std::string path = folder.Write(name, "");
         const timespec time{1162050312, 0};
         const std::array<timespec, 2> times = {time, time};
         EXPECT_EQ(utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);

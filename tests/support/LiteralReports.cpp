@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <fstream>
+#include <initializer_list>
+#include <string_view>
 #include <system_error>
 
 #include "core/ErrorLog.h"
@@ -14,6 +16,17 @@
 #include "reports/DateText.h"
 
 namespace marlo::test {
+
+namespace {
+
+std::string Joined(std::initializer_list<std::string_view> texts) {
+    std::string joined;
+    for (const std::string_view text : texts)
+        joined += text;
+    return joined;
+}
+
+}  // namespace
 
 /// The lines of a result file, read anew.
 std::vector<std::string> LiteralReports::Lines(const std::string& name) const {
@@ -98,12 +111,12 @@ void LiteralReports::ShowAllPlugins(int typeColumn, int pathColumn) {
         const bool ignoreDirectX = Ignores(20);
         for (const std::string& line : Lines("installedplugins.csv")) {
             const Fields fields = Split(line, true);
-            const std::string type = fields[0];
-            const std::string name = fields[1];
-            const std::string path = fields[2];
+            const std::string& type = fields[0];
+            const std::string& name = fields[1];
+            const std::string& path = fields[2];
             if (ignoreDirectX && type == "DirectX")
                 continue;
-            const std::string key = name + type + path;
+            const std::string key = Joined({name, type, path});
             if (HasKey(key))
                 continue;
             LiteralRow& row = Add(key, name);
@@ -136,7 +149,7 @@ void LiteralReports::ShowUsedPlugins(int typeColumn, int pathColumn, int statusC
                     break;
                 }
             }
-            const std::string key = used[0] + used[1] + installedPath + used[2];
+            const std::string key = Joined({used[0], used[1], installedPath, used[2]});
             if (HasKey(key))
                 continue;
             LiteralRow& row = Add(key, used[0]);
@@ -174,7 +187,7 @@ void LiteralReports::ShowUnusedPlugins(int typeColumn, int pathColumn) {
                 isUsed = true;
                 break;
             }
-            const std::string key = installed[1] + installed[0] + installed[2];
+            const std::string key = Joined({installed[1], installed[0], installed[2]});
             if (isUsed || HasKey(key))
                 continue;
             LiteralRow& row = Add(key, installed[1]);
@@ -193,7 +206,7 @@ void LiteralReports::ShowUninstalledPlugins(int typeColumn, int statusColumn) {
         const bool ignoreOff = Ignores(21);
         for (const std::string& line : Lines("tln.csv")) {
             const Fields used = Split(line, true);
-            const std::string key = used[0] + used[1] + used[2];
+            const std::string key = Joined({used[0], used[1], used[2]});
             if (PluginIsInstalled(used[0]) || HasKey(key))
                 continue;
             LiteralRow& row = Add(key, used[0]);
@@ -230,7 +243,7 @@ void LiteralReports::SearchResultFiles(const SearchPane& search, int typeColumn,
                                  (search.cboSearchType == "Contains" && position != 0);
             if (!matches)
                 continue;
-            LiteralRow& row = Add(use[0] + use[1] + use[2] + use[3], use[0]);
+            LiteralRow& row = Add(Joined({use[0], use[1], use[2], use[3]}), use[0]);
             std::error_code error;
             const std::tm modified = platform::LastModified(use[0], error);
             ThrowOn(error);
