@@ -13,8 +13,8 @@ class TextArena {
     /// A copy of `text` that stays where it is until everything is given up.
     std::string_view Copy(std::string_view text);
 
-    /// Puts `text` in the place of a copy that was made here and is no shorter.
-    void Replace(const char* copy, std::string_view text);
+    /// Puts `text` in the place of a copy that is no shorter.
+    static void Replace(const char* copy, std::string_view text);
 
     /// Gives all texts up. Their memory is kept for others: new memory takes the system longer than
     /// filling it takes.

@@ -108,10 +108,6 @@ std::string_view CellAt(const ResultList& list, ResultRow row, int column) {
     return column == 1 ? list.Text(row) : list.SubItem(row, column - 1);
 }
 
-bool IsGreyed(const ResultList& list, ResultRow row) {
-    return list.Colour(row) == TextColour::Greyed;
-}
-
 /// "9 rows, 4 of them greyed: not installed".
 std::string Counts(const ResultList& list) {
     const std::size_t rows = HoldsPlaceholder(list) ? 0 : list.RowCount();

@@ -88,7 +88,7 @@ void ResultList::SetSubItem(ResultRow row, int subItem, std::string_view text) {
         cell.start = keys_.Arena().Copy(text).data();
         cell.spare = 0;
     } else {
-        keys_.Arena().Replace(cell.start, text);
+        TextArena::Replace(cell.start, text);
         cell.spare = static_cast<std::uint16_t>(std::min<std::size_t>(
             available - text.size(), std::numeric_limits<std::uint16_t>::max()));
     }

@@ -22,6 +22,10 @@ void FitAndShade(ResultPane& pane) {
     pane.window.SetListViewLedger(kLedgerBar1, kLedgerBar2, ledger::kIcons);
 }
 
+bool IsGreyed(const ResultList& list, ResultRow row) {
+    return list.Colour(row) == TextColour::Greyed;
+}
+
 void GreyRow(ResultList& list, ResultRow row) {
     list.SetColour(row, TextColour::Greyed);
     for (int subItem = 1; subItem < list.ColumnCount(); ++subItem)

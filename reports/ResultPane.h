@@ -38,6 +38,9 @@ void FitAndShade(ResultPane& pane);
 /// The icon of every row.
 inline constexpr std::uint8_t kRowIcon = 1;
 
+/// Whether a row is shown in grey.
+bool IsGreyed(const ResultList& list, ResultRow row);
+
 /// Shows a row in grey: the colour of its text, and of every cell behind it.
 void GreyRow(ResultList& list, ResultRow row);
 

@@ -48,10 +48,6 @@ std::vector<std::string> HeadersOf(const ResultList& list) {
     return headers;
 }
 
-bool IsGreyed(const ResultList& list, ResultRow row) {
-    return list.Colour(row) == TextColour::Greyed;
-}
-
 void PrintTable(const ResultList& list) {
     Table table(HeadersOf(list), MaxColumnWidth());
     bool hasGreyedRows = false;

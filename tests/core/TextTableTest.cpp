@@ -64,7 +64,7 @@ TEST(TextArenaTest, MemoryIsUsedAgainAfterClearing) {
 TEST(TextArenaTest, ACopyMayBeReplacedByAPartOfItself) {
     TextArena arena;
     const std::string_view copy = arena.Copy("abcdef");
-    arena.Replace(copy.data(), copy.substr(2));
+    TextArena::Replace(copy.data(), copy.substr(2));
     EXPECT_EQ(copy, "cdefef");
 }
 

@@ -44,7 +44,7 @@ class ReportComparisonTest : public test::ReportTest {
 
     /// A field, mostly in quotes.
     std::string Field(const Texts& values) {
-        const std::string value = PickOne(values);
+        std::string value = PickOne(values);
         switch (Pick(12)) {
             case 0:
                 return value;
