@@ -11,13 +11,20 @@ namespace marlo::platform {
 /// Asks the shell to do something with a file, folder or program.
 struct ShellRequest {
     std::string verb = "Open";
-    std::string file{};        ///< a document, a program, or "explorer.exe", by its full path
+    std::string file{};        ///< a document, a program, or "explorer.exe", by its full path; or
+                               ///< the address of a web page
     std::string parameters{};  ///< a program's one argument, or the folder to explore
     bool isProgram = false;    ///< `file` was chosen as a program; anything else is never started
     std::string folder = "0";  ///< the working folder; one that does not exist does not count
     int showState = kShowNormal;
 
     static constexpr int kShowNormal = 1;
+};
+
+/// A file's icon, as far as it can be told without drawing it: a name in the desktop's icon theme, or
+/// the full path of a picture file.
+struct ShellIcon {
+    std::string name;
 };
 
 /// The shell's answers up to this one are failures.
@@ -47,7 +54,12 @@ class Desktop {
     ///         where the registry holds the associations.
     virtual std::optional<std::string> ProgramForExtension(const std::string& extension) const = 0;
 
-    /// Starts a program, or opens a document or folder with the program for it.
+    /// The small icon that the desktop shows for a file.
+    /// @param path a program's or document's full path.
+    /// @return nothing where the desktop knows none.
+    virtual std::optional<ShellIcon> SmallIcon(const std::string& path) const = 0;
+
+    /// Starts a program, or opens a document, folder or web page with the program for it.
     ///
     /// Where the shell has no verbs, they, the working folder and the show state do not count, and
     /// "explorer.exe" stands for the desktop's file manager. Where it tells programs from documents

@@ -18,6 +18,13 @@ class Gio {
         isLoaded_ = library != nullptr && Find(library, "g_content_type_guess", guessType) &&
                     Find(library, "g_app_info_get_default_for_type", defaultForType) &&
                     Find(library, "g_app_info_get_commandline", commandOf) &&
+                    Find(library, "g_app_info_get_all", all) &&
+                    Find(library, "g_app_info_get_icon", iconOf) &&
+                    Find(library, "g_themed_icon_get_type", themedIconType) &&
+                    Find(library, "g_themed_icon_get_names", iconNames) &&
+                    Find(library, "g_type_check_instance_is_a", isA) &&
+                    Find(library, "g_icon_to_string", iconText) &&
+                    Find(library, "g_list_free_full", freeList) &&
                     Find(library, "g_shell_parse_argv", parseCommand) &&
                     Find(library, "g_find_program_in_path", findProgram) &&
                     Find(library, "g_filename_to_uri", uriOf) &&
@@ -32,6 +39,13 @@ class Gio {
     decltype(&g_content_type_guess) guessType = nullptr;
     decltype(&g_app_info_get_default_for_type) defaultForType = nullptr;
     decltype(&g_app_info_get_commandline) commandOf = nullptr;
+    decltype(&g_app_info_get_all) all = nullptr;
+    decltype(&g_app_info_get_icon) iconOf = nullptr;
+    decltype(&g_themed_icon_get_type) themedIconType = nullptr;
+    decltype(&g_themed_icon_get_names) iconNames = nullptr;
+    decltype(&g_type_check_instance_is_a) isA = nullptr;
+    decltype(&g_icon_to_string) iconText = nullptr;
+    decltype(&g_list_free_full) freeList = nullptr;
     decltype(&g_shell_parse_argv) parseCommand = nullptr;
     decltype(&g_find_program_in_path) findProgram = nullptr;
     decltype(&g_filename_to_uri) uriOf = nullptr;
@@ -73,6 +87,19 @@ std::string ProgramOf(const Gio& gio, const char* command) {
     return program ? program.get() : std::string();
 }
 
+std::string NameOf(const Gio& gio, GIcon* icon) {
+    if (icon == nullptr)
+        return {};
+    // One that the theme draws may have several names, the best one first.
+    void* const instance = icon;
+    if (gio.isA(static_cast<GTypeInstance*>(instance), gio.themedIconType()) != FALSE) {
+        const char* const* const names = gio.iconNames(static_cast<GThemedIcon*>(instance));
+        return names == nullptr || *names == nullptr ? "" : *names;
+    }
+    const Text text(gio.iconText(icon), gio.free);
+    return text ? text.get() : "";
+}
+
 }  // namespace
 
 std::string GioProgramForExtension(const std::string& extension) {
@@ -86,12 +113,32 @@ std::string GioProgramForExtension(const std::string& extension) {
     return application ? ProgramOf(gio, gio.commandOf(application.get())) : std::string();
 }
 
+std::string GioIconOfProgram(const std::string& path) {
+    const Gio& gio = LoadedGio();
+    if (!gio.IsLoaded())
+        return {};
+    GList* const applications = gio.all();
+    std::string icon;
+    for (const GList* entry = applications; entry != nullptr && icon.empty(); entry = entry->next) {
+        auto* const application = static_cast<GAppInfo*>(entry->data);
+        if (ProgramOf(gio, gio.commandOf(application)) == path)
+            icon = NameOf(gio, gio.iconOf(application));
+    }
+    gio.freeList(applications, gio.release);
+    return icon;
+}
+
 bool GioOpen(const std::string& path) {
     const Gio& gio = LoadedGio();
     if (!gio.IsLoaded())
         return false;
     const Text uri(gio.uriOf(path.c_str(), nullptr, nullptr), gio.free);
-    return uri && gio.openUri(uri.get(), nullptr, nullptr) != FALSE;
+    return uri && GioOpenAddress(uri.get());
+}
+
+bool GioOpenAddress(const std::string& address) {
+    const Gio& gio = LoadedGio();
+    return gio.IsLoaded() && gio.openUri(address.c_str(), nullptr, nullptr) != FALSE;
 }
 
 bool GioStart(const std::string& program, const std::string& argument) {

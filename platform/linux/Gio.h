@@ -9,9 +9,18 @@ namespace marlo::platform {
 /// it with the program would double the time that the terminal program takes to start.
 std::string GioProgramForExtension(const std::string& extension);
 
+/// The icon that the desktop shows for a program: a name in its icon theme, or the full path of a
+/// picture file; empty when it knows no such program, or GIO is not installed.
+/// @param path the program's full path.
+std::string GioIconOfProgram(const std::string& path);
+
 /// Opens a file or folder with the desktop's program for it.
 /// @return false when there is none, or GIO is not installed.
 bool GioOpen(const std::string& path);
+
+/// Opens what is at an address, such as a web page, with the desktop's program for it.
+/// @return false when there is none, or GIO is not installed.
+bool GioOpenAddress(const std::string& address);
 
 /// Starts a program, which goes on by itself.
 /// @param argument its one argument; empty for none.

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <sys/stat.h>
+#include <utility>
 
 #include "platform/linux/Gio.h"
 #include "platform/linux/PosixError.h"
@@ -45,6 +46,10 @@ std::optional<mode_t> ModeOf(const std::string& path) {
     return status.st_mode;
 }
 
+bool IsWebAddress(const std::string& file) {
+    return file.starts_with("https://") || file.starts_with("http://");
+}
+
 int StartProgram(const std::string& program, const std::string& argument) {
     if (!ModeOf(program) || argument.find('\0') != std::string::npos)
         return kFileNotFound;
@@ -76,6 +81,8 @@ std::optional<std::string> LinuxDesktop::ProgramForExtension(const std::string& 
 int LinuxDesktop::ShellExecute(const ShellRequest& request) const {
     if (request.isProgram)
         return StartProgram(request.file, request.parameters);
+    if (IsWebAddress(request.file))
+        return GioOpenAddress(request.file) ? kDone : kNoAssociation;
     const bool isFolder = request.file == "explorer.exe";
     const std::string& path = isFolder ? request.parameters : request.file;
     const auto mode = ModeOf(path);
@@ -86,6 +93,11 @@ int LinuxDesktop::ShellExecute(const ShellRequest& request) const {
 
 std::string LinuxDesktop::ShortPath(const std::string& path) const {
     return ModeOf(path) ? path : "";
+}
+
+std::optional<ShellIcon> LinuxDesktop::SmallIcon(const std::string& path) const {
+    std::string name = GioIconOfProgram(path);
+    return name.empty() ? std::nullopt : std::optional(ShellIcon{std::move(name)});
 }
 
 }  // namespace marlo::platform

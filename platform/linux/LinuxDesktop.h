@@ -19,6 +19,9 @@ class LinuxDesktop final : public Desktop {
     int ShellExecute(const ShellRequest& request) const override;
 
     std::string ShortPath(const std::string& path) const override;
+
+    /// By GIO, for the programs that have a .desktop file.
+    std::optional<ShellIcon> SmallIcon(const std::string& path) const override;
 };
 
 }  // namespace marlo::platform

@@ -25,6 +25,7 @@ class MadeDesktop {
     }
 
     std::string Program() const { return folder_.Path("bin/Sheets & Co"); }
+    std::string DrawnProgram() const { return folder_.Path("bin/drawn"); }
 
     /// What the program noted, once it has: how many arguments it got, and which.
     std::string TakeNote() const {
@@ -45,15 +46,21 @@ class MadeDesktop {
                       "50:text/x-sheet:*.sheet\n50:text/x-none:*.none\n"
                       "50:text/x-boxed:*.boxed\n50:text/x-song:*.cpr\n");
         folder_.Write("data/applications/sheets.desktop",
-                      "[Desktop Entry]\nType=Application\nName=Sheets\nExec=\"" + Program() +
-                          "\" %f\nMimeType=text/x-sheet;text/x-song;inode/directory;\n");
+                      "[Desktop Entry]\nType=Application\nName=Sheets\nIcon=sheets-icon\nExec=\"" +
+                          Program() + "\" %u\nMimeType=text/x-sheet;text/x-song;"
+                                      "inode/directory;x-scheme-handler/https;\n");
+        folder_.Write("data/applications/drawn.desktop",
+                      "[Desktop Entry]\nType=Application\nName=Drawn\nIcon=/pictures/drawn.png\n"
+                      "Exec=" + DrawnProgram() + "\n");
+        folder_.Write("bin/drawn", "");
+        std::filesystem::permissions(DrawnProgram(), std::filesystem::perms::owner_all);
         folder_.Write("data/applications/boxed.desktop",
                       "[Desktop Entry]\nType=Application\nName=Boxed\nExec=env A=b " +
                           folder_.Path("bin/x") + " %F\nMimeType=text/x-boxed;\n");
         folder_.Write("config/mimeapps.list",
                       "[Default Applications]\ntext/x-sheet=sheets.desktop\n"
                       "text/x-song=sheets.desktop\ninode/directory=sheets.desktop\n"
-                      "text/x-boxed=boxed.desktop\n");
+                      "text/x-boxed=boxed.desktop\nx-scheme-handler/https=sheets.desktop\n");
         setenv("XDG_DATA_HOME", folder_.Path("data").c_str(), 1);
         setenv("XDG_DATA_DIRS", folder_.Path("data").c_str(), 1);
         setenv("XDG_CONFIG_HOME", folder_.Path("config").c_str(), 1);
@@ -88,6 +95,21 @@ TEST_F(DesktopTest, TheProgramForAnExtensionIsTheDesktopsOwn) {
     EXPECT_EQ(SystemDesktop().ProgramForExtension(".sheet"), made.Program());
     EXPECT_EQ(SystemDesktop().ProgramForExtension(".none"), "");
     EXPECT_EQ(SystemDesktop().ProgramForExtension(".boxed"), "") << "env is not the program";
+}
+
+TEST_F(DesktopTest, AProgramHasTheIconThatItsDesktopEntryNames) {
+    const MadeDesktop& made = MadeDesktop::Instance();
+    const auto themed = SystemDesktop().SmallIcon(made.Program());
+    ASSERT_TRUE(themed);
+    EXPECT_EQ(themed->name, "sheets-icon");
+    const auto drawn = SystemDesktop().SmallIcon(made.DrawnProgram());
+    ASSERT_TRUE(drawn);
+    EXPECT_EQ(drawn->name, "/pictures/drawn.png");
+}
+
+TEST_F(DesktopTest, AProgramWithoutADesktopEntryHasNoIcon) {
+    EXPECT_FALSE(SystemDesktop().SmallIcon(folder.Write("program", "")));
+    EXPECT_FALSE(SystemDesktop().SmallIcon(""));
 }
 
 class ShellTest : public DesktopTest {
@@ -146,6 +168,13 @@ TEST_F(ShellTest, WhatIsNotThereIsNotFound) {
     EXPECT_EQ(Ask({.file = made.Program(), .parameters = "a" + nul, .isProgram = true}), 2);
     EXPECT_EQ(Ask({.file = "explorer.exe", .parameters = folder.Path("gone")}), 2);
     EXPECT_EQ(Ask({.file = "explorer.exe", .parameters = made.Program()}), 2) << "no folder";
+}
+
+TEST_F(ShellTest, AWebPageIsOpenedByTheProgramForItsAddress) {
+    const std::string address = "https://help.example/2006/10/table-of-contents.html";
+    EXPECT_GT(Ask({.file = address}), kLastShellFailure);
+    EXPECT_EQ(made.TakeNote(), "1|" + address + "|");
+    EXPECT_EQ(Ask({.file = "http://help.example/"}), 31) << "nothing is associated with http";
 }
 
 TEST_F(ShellTest, ADocumentWithoutAProgramHasNoAssociation) {

@@ -69,6 +69,13 @@ std::string FakeDesktop::ShortPath(const std::string& path) const {
     return std::filesystem::exists(path) ? "short:" + path : "";
 }
 
+std::optional<platform::ShellIcon> FakeDesktop::SmallIcon(const std::string& path) const {
+    if (shellFailure)
+        std::rethrow_exception(shellFailure);
+    const auto found = icons.find(path);
+    return found == icons.end() ? std::nullopt : std::optional(found->second);
+}
+
 void RecordingWindow::SetText1(const std::string& text) {
     text1 = text;
     events.push_back("Text1: " + text);

@@ -38,6 +38,7 @@ class FakeDesktop final : public platform::Desktop {
     std::optional<std::string> ProgramForExtension(const std::string& extension) const override;
     int ShellExecute(const platform::ShellRequest& request) const override;
     std::string ShortPath(const std::string& path) const override;
+    std::optional<platform::ShellIcon> SmallIcon(const std::string& path) const override;
 
     /// From an extension to its program; empty for a desktop that keeps them in the registry.
     std::map<std::string, std::string> programs;
@@ -48,6 +49,8 @@ class FakeDesktop final : public platform::Desktop {
     int shellAnswer = 33;
     /// Thrown by the shell, if set.
     std::exception_ptr shellFailure;
+    /// From a file's path to its icon.
+    std::map<std::string, platform::ShellIcon> icons;
 };
 
 /// A window that writes down what it is asked, in `events`, one line each: "Text1: …",
