@@ -1,5 +1,7 @@
 #include "reports/ListPage.h"
 
+#include <algorithm>
+#include <iomanip>
 #include <sstream>
 #include <string_view>
 
@@ -183,16 +185,33 @@ std::string ListAsCsv(const ResultList& list) {
     return csv;
 }
 
-std::string ListAsHtml(const ResultList& list, const std::string& title, const std::string& date) {
+std::string ListAsHtml(const ResultList& list, const std::string& title, const std::tm& moment) {
     std::ostringstream page;
     const std::string escapedTitle = Html(title);
     WriteHead(page, list, escapedTitle);
-    page << "<body>\n<h1>" << escapedTitle << "</h1>\n<p>" << Html(date) << " &middot; "
-         << Counts(list) << "</p>\n<table>\n";
+    page << "<body>\n<h1>" << escapedTitle << "</h1>\n<p>"
+         << std::put_time(&moment, "%Y-%m-%d %H:%M") << " &middot; " << Counts(list)
+         << "</p>\n<table>\n";
     WriteHeaders(page, list);
     WriteRows(page, list);
     page << "</table>\n<script>" << kScript << "</script>\n</body>\n</html>\n";
     return page.str();
+}
+
+std::string RowsAsText(const ResultList& list, const std::vector<std::size_t>& positions) {
+    std::string text;
+    for (const std::size_t position : positions) {
+        const ResultRow row = list.RowAt(position);
+        for (int column = 1; column <= list.ColumnCount(); ++column) {
+            std::string cell = DecodeToUtf8(CellAt(list, row, column));
+            std::replace_if(
+                cell.begin(), cell.end(),
+                [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
+            text.append(column == 1 ? "" : "\t").append(cell);
+        }
+        text += '\n';
+    }
+    return text;
 }
 
 }  // namespace marlo

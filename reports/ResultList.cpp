@@ -29,12 +29,14 @@ std::int16_t ResultList::AddColumn(const std::string& header) {
     if (headers_.size() == rowWidth_)
         WidenRows(rowWidth_ + 1);
     headers_.push_back(header);
+    ++revision_;
     return static_cast<std::int16_t>(headers_.size());
 }
 
 void ResultList::RemoveColumn(int column) {
     const std::size_t index = CheckedIndex(static_cast<std::size_t>(column), headers_.size());
     headers_.erase(headers_.begin() + static_cast<std::ptrdiff_t>(index));
+    ++revision_;
 }
 
 ResultRow ResultList::AddRow(std::string_view key, std::string_view text) {
@@ -55,6 +57,7 @@ std::optional<ResultRow> ResultList::AddRowUnlessThere(std::string_view key,
     const std::string_view ownText = isInKey ? std::string_view() : keys_.Arena().Copy(text);
     if (!keys_.Add(key))
         return std::nullopt;
+    ++revision_;
     const auto row = static_cast<ResultRow>(count);
     const std::string_view shown = isInKey ? Key(row).substr(0, text.size()) : ownText;
     CellOf(row, 0) = {.start = shown.data(), .size = static_cast<std::uint32_t>(shown.size())};
@@ -68,6 +71,7 @@ void ResultList::ClearRows() {
     rowWidth_ = std::max<std::size_t>(headers_.size(), 1);
     positions_.clear();
     selected_.reset();
+    ++revision_;
 }
 
 ResultRow ResultList::RowAt(std::size_t position) const {
@@ -83,6 +87,7 @@ void ResultList::SetSubItem(ResultRow row, int subItem, std::string_view text) {
     Cell& cell = CellOf(row, CheckedSubItem(subItem));
     const std::size_t available = std::size_t{cell.size} + cell.spare;
     isOrdered_ = false;
+    ++revision_;
     // Dates are converted to and fro at each click on their column, which should not take memory.
     if (text.size() > available) {
         cell.start = keys_.Arena().Copy(text).data();
@@ -101,6 +106,12 @@ TextColour ResultList::SubItemColour(ResultRow row, int subItem) const {
 
 void ResultList::SetSubItemColour(ResultRow row, int subItem, TextColour colour) {
     CellOf(row, CheckedSubItem(subItem)).colour = colour;
+    ++revision_;
+}
+
+void ResultList::SetColour(ResultRow row, TextColour colour) {
+    CellOf(row, 0).colour = colour;
+    ++revision_;
 }
 
 /// @return the 0-based column of a sub-item.
@@ -133,6 +144,7 @@ void ResultList::SetSortKey(int column) {
     if (column == sortKey_)
         return;
     sortKey_ = column;
+    ++revision_;
     isOrdered_ = false;
     isOrderDue_ = isSorted_;
 }
@@ -142,6 +154,7 @@ void ResultList::SetOrder(SortOrder order) {
     if (order == order_)
         return;
     order_ = order;
+    ++revision_;
     isOrdered_ = false;
     isOrderDue_ = isSorted_;
 }
@@ -151,12 +164,22 @@ void ResultList::SetSorted(bool isSorted) {
     if (isSorted && !isOrdered_)
         PutInOrder();
     isSorted_ = isSorted;
+    ++revision_;
 }
 
 ResultRow ResultList::SelectedRow() const {
     if (!selected_)
         throw RunTimeError(ErrorNumber::ObjectNotSet);
     return *selected_;
+}
+
+std::size_t ResultList::SelectedPosition() const {
+    if (!selected_)
+        return 0;
+    Settle();
+    const auto found = std::find(positions_.begin(), positions_.end(),
+                                 static_cast<std::uint32_t>(*selected_));
+    return static_cast<std::size_t>(found - positions_.begin()) + 1;
 }
 
 /// Gives the rows that were added since somebody looked their places.

@@ -50,7 +50,7 @@ class ResultList {
     /// The main text, which stands in column 1.
     std::string_view Text(ResultRow row) const { return CellOf(row, 0).Text(); }
     TextColour Colour(ResultRow row) const { return CellOf(row, 0).colour; }
-    void SetColour(ResultRow row, TextColour colour) { CellOf(row, 0).colour = colour; }
+    void SetColour(ResultRow row, TextColour colour);
     /// 1-based; 0 for none.
     int SmallIcon(ResultRow row) const { return icons_[Index(row)]; }
     void SetSmallIcon(ResultRow row, std::uint8_t icon) { icons_[Index(row)] = icon; }
@@ -81,6 +81,11 @@ class ResultList {
     ResultRow SelectedRow() const;
     void Select(std::size_t position) { selected_ = RowAt(position); }
     void SelectNone() { selected_.reset(); }
+    /// Where the selected row stands; 0 when there is none.
+    std::size_t SelectedPosition() const;
+
+    /// A number that is another one whenever a header, a text, a colour or the order may be.
+    std::size_t Revision() const { return revision_; }
 
   private:
     /// A text, which lives elsewhere, and its colour, in as little memory as possible: lists are
@@ -117,6 +122,7 @@ class ResultList {
     mutable bool isOrderDue_ = false;  ///< they have to be put in order before anybody looks
     bool isVisible_ = true;
     std::optional<ResultRow> selected_;
+    std::size_t revision_ = 0;
 };
 
 }  // namespace marlo

@@ -1,7 +1,5 @@
 #include "app/cli/ListOutput.h"
 
-#include <array>
-#include <ctime>
 #include <iostream>
 #include <string_view>
 #include <vector>
@@ -94,11 +92,6 @@ void PrintCsv(const ResultList& list) {
     }
 }
 
-std::string MinuteOf(const std::tm& moment) {
-    std::array<char, 32> text{};
-    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", &moment)};
-}
-
 }  // namespace
 
 void PrintList(const ResultPane& pane, const std::string& title, ListFormat format) {
@@ -110,7 +103,7 @@ void PrintList(const ResultPane& pane, const std::string& title, ListFormat form
         case ListFormat::Json:
             return PrintJson(pane.lstSongs);
         case ListFormat::Html:
-            std::cout << ListAsHtml(pane.lstSongs, title, MinuteOf(pane.application.clock.Now()));
+            std::cout << ListAsHtml(pane.lstSongs, title, pane.application.clock.Now());
     }
 }
 

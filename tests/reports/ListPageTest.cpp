@@ -5,6 +5,7 @@
 
 #include "reports/ListPage.h"
 #include "reports/ResultPane.h"
+#include "tests/support/Fakes.h"
 
 namespace marlo {
 namespace {
@@ -22,7 +23,7 @@ class ListPageTest : public testing::Test {
         return row;
     }
 
-    std::string Html() const { return ListAsHtml(list, "Used Plugins", "2026-11-15 03:10"); }
+    std::string Html() const { return ListAsHtml(list, "Used Plugins", test::FakeClock().Now()); }
     bool HtmlHas(const std::string& text) const { return Html().find(text) != std::string::npos; }
 
     ResultList list;
@@ -82,12 +83,12 @@ TEST_F(ListPageTest, NothingInAFieldIsMarkup) {
     const std::string hostile = "</td><script>alert('x\" &amp;')</script>";
     Add(hostile, "<b>");
     list.AddColumn(hostile);
-    const std::string page = ListAsHtml(list, hostile, hostile);
+    const std::string page = ListAsHtml(list, hostile, test::FakeClock().Now());
     EXPECT_EQ(page.find("alert('"), std::string::npos);
     EXPECT_EQ(page.find("<b>"), std::string::npos);
     const std::string escaped =
         "&#60;/td&#62;&#60;script&#62;alert(&#39;x&#34; &#38;amp;&#39;)&#60;/script&#62;";
-    for (const std::string place : {"<title>", "<h1>", "<p>", "<button type=\"button\">"})
+    for (const std::string place : {"<title>", "<h1>", "<button type=\"button\">"})
         EXPECT_NE(page.find(place + escaped), std::string::npos) << place;
 }
 
@@ -99,6 +100,23 @@ TEST_F(ListPageTest, ControlCharactersAreShownAsTheirPictures) {
 TEST_F(ListPageTest, APathMayBeBrokenBehindItsNames) {
     Add("/vst/a.dll", "C:\\vst\\a.dll");
     EXPECT_TRUE(HtmlHas("<td>/<wbr>vst/<wbr>a.dll</td><td>C:\\<wbr>vst\\<wbr>a.dll</td>"));
+}
+
+TEST_F(ListPageTest, RowsAreCopiedInTheOrderAskedForWithTabsBetweenTheirCells) {
+    Add("R\xE9verb", "VST");
+    Add("Echo", "DirectX");
+    Add("Delay", "VST");
+    EXPECT_EQ(RowsAsText(list, {1, 3}), "Réverb\tVST\nDelay\tVST\n");
+    EXPECT_EQ(RowsAsText(list, {}), "");
+}
+
+TEST_F(ListPageTest, NothingInACellCanShiftTheCellsOfACopiedRow) {
+    Add("a\tb\r\nc", "VST");
+    EXPECT_EQ(RowsAsText(list, {1}), "a b  c\tVST\n");
+}
+
+TEST_F(ListPageTest, ThePageTellsWhenItWasMade) {
+    EXPECT_TRUE(HtmlHas("<p>2026-11-15 03:10 &middot;"));
 }
 
 TEST_F(ListPageTest, HtmlNeedsNothingFromElsewhere) {

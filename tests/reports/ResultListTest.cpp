@@ -1,3 +1,5 @@
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "core/RunTimeError.h"
@@ -292,6 +294,45 @@ TEST_F(ResultListTest, ManyRowsAreFoundByTheirKeysAndSorted) {
     const Texts shown = Shown();
     EXPECT_EQ(shown.size(), static_cast<std::size_t>(count));
     EXPECT_TRUE(std::is_sorted(shown.begin(), shown.end()));
+}
+
+TEST_F(ResultListTest, TheSelectedPositionFollowsTheOrder) {
+    Add({"b", "a"});
+    EXPECT_EQ(list.SelectedPosition(), 0U);
+    list.Select(1);
+    EXPECT_EQ(list.SelectedPosition(), 1U);
+    list.SetSorted(true);
+    EXPECT_EQ(list.SelectedPosition(), 2U);
+}
+
+TEST_F(ResultListTest, TheRevisionChangesWithWhateverIsShown) {
+    std::size_t last = list.Revision();
+    const auto hasChanged = [&] { return std::exchange(last, list.Revision()) != list.Revision(); };
+    list.AddColumn("A");
+    EXPECT_TRUE(hasChanged());
+    list.AddColumn("B");
+    EXPECT_TRUE(hasChanged());
+    const ResultRow row = list.AddRow("a", "a");
+    EXPECT_TRUE(hasChanged());
+    list.SetSubItem(row, 1, "b");
+    EXPECT_TRUE(hasChanged());
+    list.SetColour(row, TextColour::Greyed);
+    EXPECT_TRUE(hasChanged());
+    list.SetSubItemColour(row, 1, TextColour::Greyed);
+    EXPECT_TRUE(hasChanged());
+    list.SetOrder(SortOrder::Descending);
+    EXPECT_TRUE(hasChanged());
+    list.SetSorted(true);
+    EXPECT_TRUE(hasChanged());
+    list.SetSortKey(1);
+    EXPECT_TRUE(hasChanged());
+    list.RemoveColumn(1);
+    EXPECT_TRUE(hasChanged());
+    list.ClearRows();
+    EXPECT_TRUE(hasChanged());
+    list.SelectNone();
+    list.SetVisible(false);
+    EXPECT_FALSE(hasChanged());
 }
 
 }  // namespace

@@ -1,0 +1,35 @@
+#include <gtest/gtest.h>
+
+#include "ui/Pace.h"
+
+namespace marlo {
+namespace {
+
+using std::chrono::milliseconds;
+
+const Pace::Moment kStart{milliseconds(1000)};
+
+TEST(PaceTest, TheFirstTimeIsDue) {
+    Pace pace;
+    EXPECT_TRUE(pace.IsDue(kStart));
+}
+
+TEST(PaceTest, WhatComesSoonAfterIsNotDueAndDoesNotPutOffTheNext) {
+    Pace pace;
+    pace.IsDue(kStart);
+    EXPECT_FALSE(pace.IsDue(kStart + milliseconds(1)));
+    EXPECT_FALSE(pace.IsDue(kStart + milliseconds(15)));
+    EXPECT_TRUE(pace.IsDue(kStart + milliseconds(16)));
+    EXPECT_FALSE(pace.IsDue(kStart + milliseconds(17)));
+}
+
+TEST(PaceTest, WhatWasDoneOutOfTurnPutsOffTheNext) {
+    Pace pace;
+    pace.IsDue(kStart);
+    pace.Restart(kStart + milliseconds(10));
+    EXPECT_FALSE(pace.IsDue(kStart + milliseconds(20)));
+    EXPECT_TRUE(pace.IsDue(kStart + milliseconds(26)));
+}
+
+}  // namespace
+}  // namespace marlo

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/MainWindow.h"
+#include "dialogs/FolderBrowser.h"
+#include "dialogs/GetIcons.h"
+#include "ui/CommandItems.h"
+#include "ui/FormLayout.h"
+
+namespace marlo {
+
+/// What the main window's controls show, but for the result list and what the user types or
+/// picks. Texts are fields (see core/Text.h).
+struct FormState {
+    struct Item {
+        std::string caption;
+        bool isEnabled = true;
+        bool isHovered = false;
+    };
+
+    std::array<Item, kCommandItemCount> cmdbuttons;
+    std::string Text1;
+    std::string Text2;
+    bool isFindEnabled = true;
+    bool isDonateEnabled = true;
+    bool isDonateVisible = true;
+};
+
+/// The main window as its logic sees it: controls without a will of their own.
+class FormView {
+  public:
+    virtual ~FormView() = default;
+
+    /// Brings the controls in line with the state, which has changed.
+    virtual void Show(const FormState& state) = 0;
+    /// Brings the result list in line with its model, which has changed.
+    virtual void ShowList() = 0;
+
+    virtual NaturalSizes Sizes() const = 0;
+    virtual TwipSize ClientArea() const = 0;
+    virtual bool IsMinimised() const = 0;
+    virtual void Place(const FormLayout& layout) = 0;
+
+    virtual void FillSearchTypes(const std::vector<std::string>& types) = 0;
+    /// 0-based; -1 for none.
+    virtual int SearchType() const = 0;
+    virtual void SetSearchType(int index) = 0;
+    virtual bool IgnoreCase() const = 0;
+    virtual void SetIgnoreCase(bool isChecked) = 0;
+    virtual std::string SearchText() const = 0;
+
+    /// Starts calling `Form1::Timer1_Timer`.
+    /// @param interval in milliseconds.
+    virtual void StartTimer(int interval) = 0;
+    virtual void StopTimer() = 0;
+
+    /// Takes the window's icons from a file; none when there is no such file.
+    virtual void SetProgramIcon(const std::string& path) = 0;
+    /// The boxes beside the items that open a result file. @param index 0 or 1.
+    virtual PictureBox& CsvIcon(std::size_t index) = 0;
+
+    /// See the routines of `MainWindow` by the same names.
+    virtual void Repaint() = 0;
+    virtual void LetEventsRun() = 0;
+    virtual void SetHourglass(bool isShown) = 0;
+    virtual void AutoSizeListViewColumns() = 0;
+    virtual void SetListViewLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
+                                   std::int32_t sizingKind) = 0;
+    virtual MessageAnswer ShowMessage(const Message& message) = 0;
+
+    /// Takes the shading of the result list's rows away.
+    virtual void RemoveListViewLedger() = 0;
+
+    virtual FolderChooser& Folders() = 0;
+    /// Shows a dialog until the user closes it.
+    virtual void ShowOptions() = 0;
+    virtual void ShowAbout() = 0;
+
+    /// Closes the window, as if the user did.
+    virtual void Close() = 0;
+};
+
+}  // namespace marlo
