@@ -1,0 +1,453 @@
+#include "app/gui/Form1Window.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+#include <wx/app.h>
+#include <wx/checkbox.h>
+#include <wx/choice.h>
+#include <wx/dcbuffer.h>
+#include <wx/evtloop.h>
+#include <wx/iconbndl.h>
+#include <wx/settings.h>
+#include <wx/textctrl.h>
+
+#include "app/gui/AboutDialog.h"
+#include "app/gui/MessageBox.h"
+#include "app/gui/OptionsDialog.h"
+#include "app/gui/Pictures.h"
+#include "app/gui/ResultListMenu.h"
+#include "app/gui/TextConversion.h"
+#include "app/gui/Theme.h"
+#include "platform/FileSystem.h"
+#include "platform/Toolkit.h"
+#include "reports/Ledger.h"
+
+namespace marlo::gui {
+
+namespace {
+
+// The sizes that the backgrounds were drawn in.
+const wxSize kMenuPaneDrawn(176, 430);
+const wxSize kRightPaneDrawn(800, 600);
+
+constexpr double kSmallestItemFont = 0.8;  // of the desktop's usual one
+
+/// A window that shows a picture on a panel's picture.
+template <class PictureOf>
+wxWindow* CreatePictureView(PicturePanel* parent, const wxString& name, PictureOf pictureOf) {
+    auto* const view = new wxWindow;
+    view->SetBackgroundStyle(wxBG_STYLE_PAINT);
+    view->Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE, name);
+    view->SetCanFocus(false);
+    view->Bind(wxEVT_PAINT, [=](wxPaintEvent&) {
+        wxAutoBufferedPaintDC dc(view);
+        parent->PaintBehind(dc, view->GetPosition());
+        const wxBitmap picture = pictureOf(view);
+        if (picture.IsOk())
+            dc.DrawBitmap(picture, 0, 0, true);
+    });
+    return view;
+}
+
+/// Paints a container as a frame around its picture.
+wxPanel* CreatePane(wxWindow* parent, const wxString& name) {
+    auto* const pane = new wxPanel;
+    pane->SetBackgroundStyle(wxBG_STYLE_PAINT);
+    pane->Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, name);
+    pane->Bind(wxEVT_PAINT, [pane](wxPaintEvent&) {
+        wxAutoBufferedPaintDC dc(pane);
+        dc.SetBackground(pane->GetParent()->GetBackgroundColour());
+        dc.Clear();
+        const Theme theme = CurrentTheme();
+        dc.SetPen(theme.paneFrame);
+        dc.SetBrush(theme.itemBackground);
+        dc.DrawRoundedRectangle(pane->GetClientRect(), DesignPixels(*pane, 4));
+    });
+    return pane;
+}
+
+}  // namespace
+
+Form1Window::Form1Window(const Application& application, const std::string& helpSite)
+    : wxFrame(nullptr, wxID_ANY, Shown(std::string(kApplicationTitle)), wxDefaultPosition,
+              wxDefaultSize, wxDEFAULT_FRAME_STYLE, "Form1"),
+      application_(application),
+      scale_(*this),
+      timer1_(this),
+      folders_(this),
+      csvIcons_{IconBox(*this), IconBox(*this)},
+      form_(application, *this, helpSite) {
+    CreateControls();
+    ChooseItemFont();
+    ApplyTheme();
+    SetClientSize(scale_.Pixels(kDefaultClientSize.width, kDefaultClientSize.height));
+    CentreOnScreen();
+    form_.Form_Load();
+    BindEvents();
+    txtSearchText_->SetFocus();
+}
+
+std::string Form1Window::Picture(const char* name) const {
+    return PicturePath(application_.folder, name);
+}
+
+void Form1Window::CreateControls() {
+    background_ = new wxPanel(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL);
+    boxMenu_ = CreatePane(background_, "boxMenu");
+    imgMenu_ = new PicturePanel(boxMenu_, "imgMenu", kMenuPaneDrawn);
+    label5_ = new PictureLabel(imgMenu_, "Label5", "       Menu");
+    label5_->SetFont(GetFont().Bold().Scaled(1.15F));
+    // Over the blanks of the label.
+    image1_ = CreatePictureView(imgMenu_, "Image1", [this](wxWindow* view) {
+        return LoadPicture(*view, Picture("menu_mark.svg"), view->GetClientSize());
+    });
+    boxRightPane_ = CreatePane(background_, "boxRightPane");
+    imgRightPane_ = new PicturePanel(boxRightPane_, "imgRightPane", kRightPaneDrawn);
+    CreateCommandItems();
+    btnDonate_ = new PictureButton(imgMenu_, "btnDonate", "Donate", Picture("donate.gif"),
+                                   Picture("donate_b&w.gif"));
+    CreateSearchControls();
+    text1_ = new StatusBox(background_, "Text1");
+    text2_ = new StatusBox(background_, "Text2");
+}
+
+void Form1Window::CreateCommandItems() {
+    // From the top, which is the order that Tab goes by.
+    std::array<std::size_t, kCommandItemCount> order{};
+    for (std::size_t i = 0; i < order.size(); ++i)
+        order.at(i) = i;
+    std::sort(order.begin(), order.end(), [](std::size_t a, std::size_t b) {
+        return kCommandItems.at(a).top < kCommandItems.at(b).top;
+    });
+    std::size_t icon = 0;
+    for (const std::size_t i : order) {
+        const CommandItem& item = kCommandItems.at(i);
+        PicturePanel* const panel = item.pane == Pane::Menu ? imgMenu_ : imgRightPane_;
+        auto* const control =
+            new CommandItemControl(panel, i, item.caption, item.hasWindowBackground);
+        control->onClick = [this, i] { form_.cmdButtons_Click(static_cast<int>(i)); };
+        control->onMouseMove = [this, i] { form_.cmdbuttons_MouseMove(i); };
+        cmdbuttons_.at(i) = control;
+        if (item.command != Command::OpenResults)
+            continue;
+        IconBox& box = csvIcons_.at(icon);
+        wxWindow* const view =
+            CreatePictureView(panel, wxString::Format("Picture%zu", icon + 2),
+                              [&box](wxWindow* /*view*/) { return box.Picture(); });
+        box.onChange = [view] { view->Refresh(); };
+        csvIconViews_.at(icon++) = view;
+    }
+}
+
+void Form1Window::CreateSearchControls() {
+    cboSearchType_ = new wxChoice(imgRightPane_, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0,
+                                  nullptr, 0, wxDefaultValidator, "cboSearchType");
+    platform::SetAccessibleName(cboSearchType_->GetHandle(), "Kind of match");
+    label3_ = new PictureLabel(imgRightPane_, "Label3", "Ignore Case:");
+    chkIgnoreCase_ = new wxCheckBox(imgRightPane_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                                    0, wxDefaultValidator, "chkIgnoreCase");
+    platform::SetAccessibleName(chkIgnoreCase_->GetHandle(), "Ignore Case:");
+    txtSearchText_ = new wxTextCtrl(imgRightPane_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                                    wxTE_PROCESS_ENTER, wxDefaultValidator, "txtSearchText");
+    platform::SetAccessibleName(txtSearchText_->GetHandle(), "Text to search for");
+    cmdFind_ = new PictureButton(imgRightPane_, "cmdFind", "Search", Picture("search.gif"),
+                                 Picture("search_b&w.gif"));
+    lstSongs_ = new LedgerList(imgRightPane_, "lstSongs", form_.lstSongs());
+    platform::SetAccessibleName(lstSongs_->GetHandle(), "Results");
+}
+
+/// The items' places were drawn for small texts. They are as large as fits in there, but not much
+/// smaller than the user's other texts; where that is too large, the layout makes room.
+void Form1Window::ChooseItemFont() {
+    const auto widest = [this] {
+        int width = 0;
+        for (const CommandItemControl* item : cmdbuttons_)
+            if (item->GetParent() == imgMenu_)
+                width = std::max(width, item->NaturalSize().x);
+        return width;
+    };
+    const auto setFont = [this](const wxFont& font) {
+        for (CommandItemControl* item : cmdbuttons_)
+            item->SetFont(font);
+    };
+    constexpr double step = 0.05;
+    for (double share = 1; share > kSmallestItemFont - step / 2; share -= step) {
+        setFont(GetFont().Scaled(static_cast<float>(share)));
+        if (widest() <= scale_.Pixels(kCommandItemWidth))
+            return;
+    }
+}
+
+void Form1Window::ApplyTheme() {
+    const Theme theme = CurrentTheme();
+    imgMenu_->SetPicture(Picture(theme.isDark ? "menu_pane_dark.svg" : "menu_pane.svg"));
+    imgRightPane_->SetPicture(Picture(theme.isDark ? "right_pane_dark.svg" : "right_pane.svg"));
+    label5_->SetColour(theme.heading);
+    label3_->SetColour(theme.label);
+    for (std::size_t i = 0; i < kCommandItemCount; ++i)
+        cmdbuttons_.at(i)->SetColours(
+            kCommandItems.at(i).pane == Pane::Menu ? theme.item : theme.itemOnSearchBar,
+            theme.disabledItem, theme.itemBackground);
+    txtSearchText_->SetBackgroundColour(ColourOf(kLedgerBar2));
+    txtSearchText_->SetForegroundColour(kTextOnLight);
+}
+
+void Form1Window::BindEvents() {
+    background_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        form_.Form_Resize();
+    });
+    Bind(wxEVT_TIMER, [this](wxTimerEvent&) { form_.Timer1_Timer(); });
+    Bind(wxEVT_CLOSE_WINDOW, &Form1Window::OnClose, this);
+    Bind(wxEVT_CHAR_HOOK, &Form1Window::OnKey, this);
+    Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
+        event.Skip();
+        ApplyTheme();
+    });
+    const auto onMotion = [](wxWindow* window, auto handler) {
+        window->Bind(wxEVT_MOTION, [handler](wxMouseEvent& event) {
+            event.Skip();
+            handler();
+        });
+    };
+    onMotion(background_, [this] { form_.Form_MouseMove(); });
+    onMotion(imgMenu_, [this] { form_.imgMenu_MouseMove(); });
+    onMotion(imgRightPane_, [this] { form_.imgRightPane_MouseMove(); });
+    btnDonate_->onClick = [this] { form_.btnDonate_Click(); };
+    cmdFind_->onClick = [this] { form_.cmdFind_Click(); };
+    txtSearchText_->Bind(wxEVT_TEXT_ENTER,
+                         [this](wxCommandEvent&) { form_.txtSearchText_KeyPress('\r'); });
+    BindListEvents();
+}
+
+void Form1Window::BindListEvents() {
+    lstSongs_->Bind(wxEVT_LIST_COL_CLICK, [this](wxListEvent& event) {
+        if (event.GetColumn() >= 0)
+            form_.lstSongs_ColumnClick(event.GetColumn() + 1);
+    });
+    const auto onSelection = [this](wxListEvent& event) {
+        event.Skip();
+        const std::size_t active = lstSongs_->ActivePosition();
+        if (active == 0 || active > form_.lstSongs().RowCount())
+            form_.lstSongs().SelectNone();
+        else
+            form_.lstSongs().Select(active);
+    };
+    lstSongs_->Bind(wxEVT_LIST_ITEM_SELECTED, onSelection);
+    lstSongs_->Bind(wxEVT_LIST_ITEM_DESELECTED, onSelection);
+    lstSongs_->Bind(wxEVT_LIST_ITEM_FOCUSED, onSelection);
+    lstSongs_->OnDoubleClick([this] { form_.lstSongs_DblClick(); });
+    lstSongs_->Bind(wxEVT_CONTEXT_MENU,
+                    [this](wxContextMenuEvent&) { ShowResultListMenu(*lstSongs_, form_); });
+}
+
+void Form1Window::OnClose(wxCloseEvent& event) {
+    if (!form_.Form_QueryUnload()) {
+        if (event.CanVeto())
+            event.Veto();
+        return;
+    }
+    form_.Form_Unload();
+    Destroy();
+}
+
+void Form1Window::OnKey(wxKeyEvent& event) {
+    const wxWindow* const focused = FindFocus();
+    const bool isInList =
+        focused != nullptr && (focused == lstSongs_ || focused->GetParent() == lstSongs_);
+    if (event.GetKeyCode() == WXK_ESCAPE && cmdbuttons_.at(kCancelItem)->IsEnabled())
+        form_.cmdButtons_Click(static_cast<int>(kCancelItem));
+    else if (isInList && event.GetModifiers() == wxMOD_CONTROL && event.GetKeyCode() == 'C')
+        CopySelectedRows(*lstSongs_, form_.lstSongs());
+    else if (isInList && event.GetKeyCode() == WXK_RETURN)
+        form_.lstSongs_DblClick();
+    else
+        event.Skip();
+}
+
+void Form1Window::Show(const FormState& state) {
+    text1_->SetText(Shown(state.Text1));
+    text2_->SetText(Shown(state.Text2));
+    FollowFocus(state);
+    for (std::size_t i = 0; i < kCommandItemCount; ++i) {
+        const FormState::Item& item = state.cmdbuttons.at(i);
+        CommandItemControl& control = *cmdbuttons_.at(i);
+        control.SetCaption(Shown(item.caption));
+        control.Enable(item.isEnabled);
+        control.SetHovered(item.isHovered);
+    }
+    cmdFind_->Enable(state.isFindEnabled);
+    btnDonate_->Enable(state.isDonateEnabled);
+    btnDonate_->Show(state.isDonateVisible);
+}
+
+/// A command that locks itself for its run hands the keyboard to Cancel, and gets it back.
+void Form1Window::FollowFocus(const FormState& state) {
+    CommandItemControl* const cancel = cmdbuttons_.at(kCancelItem);
+    const bool isRunning = state.cmdbuttons.at(kCancelItem).isEnabled;
+    if (isRunning == cancel->IsEnabled())
+        return;
+    wxWindow* const focused = FindFocus();
+    if (isRunning) {
+        const auto found = std::find(cmdbuttons_.begin(), cmdbuttons_.end(), focused);
+        if (found == cmdbuttons_.end())
+            return;
+        focusAfterRun_ = *found;
+        cancel->Enable();
+        cancel->SetFocus();
+    } else if (focusAfterRun_ != nullptr && focused == cancel) {
+        focusAfterRun_->Enable();
+        std::exchange(focusAfterRun_, nullptr)->SetFocus();
+    }
+}
+
+void Form1Window::ShowList() {
+    lstSongs_->ShowRows(form_.SortedColumn());
+}
+
+NaturalSizes Form1Window::Sizes() const {
+    const auto twips = [this](const wxSize& size) {
+        return TwipSize{scale_.Twips(size.x), scale_.Twips(size.y)};
+    };
+    NaturalSizes sizes;
+    for (std::size_t i = 0; i < kCommandItemCount; ++i)
+        sizes.cmdbuttons.at(i) = twips(cmdbuttons_.at(i)->NaturalSize());
+    sizes.Label3 = twips(label3_->TextSize());
+    sizes.Label5 = twips(label5_->TextSize());
+    sizes.cboSearchType = twips(cboSearchType_->GetBestSize());
+    sizes.chkIgnoreCase = twips(chkIgnoreCase_->GetBestSize());
+    sizes.txtSearchText = twips(txtSearchText_->GetBestSize());
+    sizes.statusBox = twips({0, text1_->NaturalHeight()});
+    return sizes;
+}
+
+TwipSize Form1Window::ClientArea() const {
+    const wxSize size = background_->GetClientSize();
+    return {scale_.Twips(size.x), scale_.Twips(size.y)};
+}
+
+void Form1Window::PlaceInside(wxWindow* control, const marlo::Place& place,
+                              const wxPoint& origin) const {
+    const int left = scale_.Pixels(place.left);
+    const int top = scale_.Pixels(place.top);
+    control->SetSize(left - origin.x, top - origin.y, scale_.Pixels(place.Right()) - left,
+                     scale_.Pixels(place.Bottom()) - top);
+}
+
+void Form1Window::Place(const FormLayout& layout) {
+    const auto originOf = [this](const marlo::Place& container) {
+        return wxPoint(scale_.Pixels(container.left), scale_.Pixels(container.top));
+    };
+    const wxPoint none;
+    const wxPoint menu = originOf(layout.imgMenu);
+    const wxPoint right = originOf(layout.imgRightPane);
+    PlaceInside(boxMenu_, layout.boxMenu, none);
+    PlaceInside(imgMenu_, layout.imgMenu, originOf(layout.boxMenu));
+    PlaceInside(label5_, layout.Label5, menu);
+    PlaceInside(image1_, layout.Image1, menu);
+    PlaceInside(btnDonate_, layout.btnDonate, menu);
+    for (std::size_t i = 0; i < csvIconViews_.size(); ++i)
+        PlaceInside(csvIconViews_.at(i), layout.csvIcons.at(i), menu);
+    for (std::size_t i = 0; i < kCommandItemCount; ++i)
+        PlaceInside(cmdbuttons_.at(i), layout.cmdbuttons.at(i),
+                    kCommandItems.at(i).pane == Pane::Menu ? menu : right);
+    PlaceInside(boxRightPane_, layout.boxRightPane, none);
+    PlaceInside(imgRightPane_, layout.imgRightPane, originOf(layout.boxRightPane));
+    PlaceInside(cboSearchType_, layout.cboSearchType, right);
+    PlaceInside(label3_, layout.Label3, right);
+    PlaceInside(chkIgnoreCase_, layout.chkIgnoreCase, right);
+    PlaceInside(txtSearchText_, layout.txtSearchText, right);
+    PlaceInside(cmdFind_, layout.cmdFind, right);
+    PlaceInside(lstSongs_, layout.lstSongs, right);
+    PlaceInside(text1_, layout.Text1, none);
+    PlaceInside(text2_, layout.Text2, none);
+}
+
+void Form1Window::FillSearchTypes(const std::vector<std::string>& types) {
+    cboSearchType_->Clear();
+    for (const std::string& type : types)
+        cboSearchType_->Append(Shown(type));
+}
+
+int Form1Window::SearchType() const {
+    return cboSearchType_->GetSelection();
+}
+
+void Form1Window::SetSearchType(int index) {
+    cboSearchType_->SetSelection(index);
+}
+
+bool Form1Window::IgnoreCase() const {
+    return chkIgnoreCase_->GetValue();
+}
+
+void Form1Window::SetIgnoreCase(bool isChecked) {
+    chkIgnoreCase_->SetValue(isChecked);
+}
+
+std::string Form1Window::SearchText() const {
+    return FieldOf(txtSearchText_->GetValue());
+}
+
+void Form1Window::SetProgramIcon(const std::string& path) {
+    std::error_code error;
+    if (platform::IsFile(path, error))
+        SetIcons(wxIconBundle(ToolkitPath(path), wxBITMAP_TYPE_ICO));
+}
+
+void Form1Window::Repaint() {
+    // What stands in the first box tells a new phase, and something that blocks may come next.
+    const auto now = std::chrono::steady_clock::now();
+    const bool isNewPhase = text1_->Text() != paintedPhase_;
+    if (!isNewPhase && !pace_.IsDue(now))
+        return;
+    pace_.Restart(now);
+    paintedPhase_ = text1_->Text();
+    Update();
+}
+
+void Form1Window::LetEventsRun() {
+    wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
+    if (loop != nullptr && !loop->IsYielding() &&
+        eventPace_.IsDue(std::chrono::steady_clock::now()))
+        loop->YieldFor(wxEVT_CATEGORY_ALL);
+}
+
+void Form1Window::SetHourglass(bool isShown) {
+    if (isShown)
+        wxBeginBusyCursor();
+    else if (wxIsBusy())
+        wxEndBusyCursor();
+}
+
+void Form1Window::AutoSizeListViewColumns() {
+    lstSongs_->AutoSizeColumns();
+}
+
+void Form1Window::SetListViewLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
+                                    std::int32_t sizingKind) {
+    lstSongs_->SetLedger(bar1Colour, bar2Colour, sizingKind);
+}
+
+void Form1Window::RemoveListViewLedger() {
+    lstSongs_->RemoveLedger();
+}
+
+MessageAnswer Form1Window::ShowMessage(const Message& message) {
+    return ShowMessageBox(this, message);
+}
+
+void Form1Window::ShowOptions() {
+    OptionsDialog(this, application_, csvIcons_[0], csvIcons_[1]).ShowModal();
+}
+
+void Form1Window::ShowAbout() {
+    AboutDialog(this, Picture("about.gif")).ShowModal();
+}
+
+void Form1Window::Close() {
+    wxFrame::Close();
+}
+
+}  // namespace marlo::gui

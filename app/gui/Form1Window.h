@@ -1,0 +1,109 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <wx/frame.h>
+#include <wx/timer.h>
+
+#include "app/gui/IconBox.h"
+#include "app/gui/LedgerList.h"
+#include "app/gui/Pickers.h"
+#include "app/gui/PictureControl.h"
+#include "app/gui/StatusBox.h"
+#include "app/gui/TwipScale.h"
+#include "ui/Form1.h"
+#include "ui/Pace.h"
+
+class wxCheckBox;
+class wxChoice;
+class wxStaticBitmap;
+class wxTextCtrl;
+
+namespace marlo::gui {
+
+/// The main window's controls. They forward what the user does to `Form1`, and show what it says.
+class Form1Window final : public wxFrame, private FormView {
+  public:
+    /// @param helpSite see `Form1`.
+    Form1Window(const Application& application, const std::string& helpSite);
+
+    Form1& Logic() { return form_; }
+
+  private:
+    void Show(const FormState& state) override;
+    void ShowList() override;
+    NaturalSizes Sizes() const override;
+    TwipSize ClientArea() const override;
+    bool IsMinimised() const override { return IsIconized(); }
+    void Place(const FormLayout& layout) override;
+    void FillSearchTypes(const std::vector<std::string>& types) override;
+    int SearchType() const override;
+    void SetSearchType(int index) override;
+    bool IgnoreCase() const override;
+    void SetIgnoreCase(bool isChecked) override;
+    std::string SearchText() const override;
+    void StartTimer(int interval) override { timer1_.Start(interval); }
+    void StopTimer() override { timer1_.Stop(); }
+    void SetProgramIcon(const std::string& path) override;
+    PictureBox& CsvIcon(std::size_t index) override { return csvIcons_.at(index); }
+    void Repaint() override;
+    void LetEventsRun() override;
+    void SetHourglass(bool isShown) override;
+    void AutoSizeListViewColumns() override;
+    void SetListViewLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
+                           std::int32_t sizingKind) override;
+    void RemoveListViewLedger() override;
+    MessageAnswer ShowMessage(const Message& message) override;
+    FolderChooser& Folders() override { return folders_; }
+    void ShowOptions() override;
+    void ShowAbout() override;
+    void Close() override;
+    using wxFrame::Close;
+    using wxFrame::Show;
+
+    void CreateControls();
+    void CreateCommandItems();
+    void CreateSearchControls();
+    void ChooseItemFont();
+    void ApplyTheme();
+    void BindEvents();
+    void BindListEvents();
+    void OnClose(wxCloseEvent& event);
+    void OnKey(wxKeyEvent& event);
+    void FollowFocus(const FormState& state);
+    void PlaceInside(wxWindow* control, const marlo::Place& place, const wxPoint& origin) const;
+    std::string Picture(const char* name) const;
+
+    const Application& application_;
+    TwipScale scale_;
+    wxTimer timer1_;
+    FolderPicker folders_;
+    std::array<IconBox, 2> csvIcons_;
+    Pace pace_;
+    Pace eventPace_;
+    wxString paintedPhase_;
+    wxWindow* focusAfterRun_ = nullptr;
+
+    wxPanel* background_ = nullptr;
+    wxPanel* boxMenu_ = nullptr;
+    PicturePanel* imgMenu_ = nullptr;
+    PictureLabel* label5_ = nullptr;
+    wxWindow* image1_ = nullptr;
+    std::array<CommandItemControl*, kCommandItemCount> cmdbuttons_{};
+    std::array<wxWindow*, 2> csvIconViews_{};
+    PictureButton* btnDonate_ = nullptr;
+    wxPanel* boxRightPane_ = nullptr;
+    PicturePanel* imgRightPane_ = nullptr;
+    wxChoice* cboSearchType_ = nullptr;
+    PictureLabel* label3_ = nullptr;
+    wxCheckBox* chkIgnoreCase_ = nullptr;
+    wxTextCtrl* txtSearchText_ = nullptr;
+    PictureButton* cmdFind_ = nullptr;
+    LedgerList* lstSongs_ = nullptr;
+    StatusBox* text1_ = nullptr;
+    StatusBox* text2_ = nullptr;
+
+    Form1 form_;
+};
+
+}  // namespace marlo::gui

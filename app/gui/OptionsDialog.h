@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <wx/dialog.h>
+
+#include "app/gui/IconBox.h"
+#include "app/gui/LedgerList.h"
+#include "app/gui/Pickers.h"
+#include "dialogs/frmOptions.h"
+
+class wxBitmapComboBox;
+class wxBookCtrlBase;
+class wxButton;
+class wxCheckBox;
+class wxStaticText;
+class wxTextCtrl;
+
+namespace marlo::gui {
+
+/// The Options dialog's controls.
+class OptionsDialog final : public wxDialog, private OptionsView {
+  public:
+    /// @param firstCsvBox, secondCsvBox the main window's, for the icon of the program chosen.
+    OptionsDialog(wxWindow* mainWindow, const Application& application, PictureBox& firstCsvBox,
+                  PictureBox& secondCsvBox);
+
+  private:
+    void Show(const OptionsState& state) override;
+    void ShadePaths() override;
+    MessageAnswer ShowMessage(const Message& message) override;
+    void Close() override;
+    using wxDialog::Close;
+    using wxDialog::Show;
+
+    void CreateControls();
+    wxWindow* CreateFoldersTab();
+    wxWindow* CreateCsvTab();
+    wxWindow* CreateGeneralTab();
+    wxWindow* CreateLogTab();
+    void BindEvents();
+    int Pixels(int designPixels) const;
+
+    FolderPicker folders_;
+    FilePicker files_;
+    IconBox Picture1_;
+    frmOptions logic_;
+
+    wxStaticText* lblHeader_ = nullptr;
+    wxBookCtrlBase* tabs_ = nullptr;
+    LedgerList* lstPaths_ = nullptr;
+    wxButton* cmdAdd_ = nullptr;
+    wxButton* cmdRemove_ = nullptr;
+    wxBitmapComboBox* imgcboPath_ = nullptr;
+    wxButton* cmdTab2Search_ = nullptr;
+    wxCheckBox* chkIgnoreDX_ = nullptr;
+    wxCheckBox* chkIgnoreOff_ = nullptr;
+    wxStaticText* label2_ = nullptr;
+    wxStaticText* label1_ = nullptr;
+    wxTextCtrl* text1_ = nullptr;
+    wxStaticText* label7_ = nullptr;
+};
+
+}  // namespace marlo::gui

@@ -1,0 +1,134 @@
+#include "app/gui/PictureControl.h"
+
+#include <utility>
+#include <wx/dcbuffer.h>
+
+#include "app/gui/Pictures.h"
+#include "app/gui/TwipScale.h"
+#include "platform/Toolkit.h"
+
+namespace marlo::gui {
+
+PictureControl::PictureControl(PicturePanel* parent, const wxString& name) : panel_(parent) {
+    SetBackgroundStyle(wxBG_STYLE_PAINT);
+    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxWANTS_CHARS, name);
+    SetCursor(wxCursor(wxCURSOR_HAND));
+    Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
+    Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
+        panel_->MarkFocus(this);
+        event.Skip();
+    });
+    Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
+        panel_->MarkFocus(nullptr);
+        event.Skip();
+    });
+    Bind(wxEVT_MOTION, [this](wxMouseEvent&) {
+        if (onMouseMove)
+            onMouseMove();
+    });
+    Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) {
+        SetFocus();
+        isPressed_ = true;
+    });
+    Bind(wxEVT_LEFT_DCLICK, [this](wxMouseEvent&) { isPressed_ = true; });
+    Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
+        const bool isClick =
+            std::exchange(isPressed_, false) && GetClientRect().Contains(event.GetPosition());
+        if (isClick)
+            Click();
+    });
+    Bind(wxEVT_CHAR, [this](wxKeyEvent& event) {
+        const int key = event.GetKeyCode();
+        if (key == WXK_RETURN || key == WXK_NUMPAD_ENTER || key == WXK_SPACE)
+            Click();
+        else if (key == WXK_TAB)
+            Navigate(event.ShiftDown() ? wxNavigationKeyEvent::IsBackward
+                                       : wxNavigationKeyEvent::IsForward);
+        else
+            event.Skip();
+    });
+}
+
+void PictureControl::SetAccessibleLabel(const wxString& label) {
+    platform::SetAccessibleName(GetHandle(), platform::ControlRole::Button, label.utf8_string());
+}
+
+void PictureControl::Paint() {
+    wxAutoBufferedPaintDC dc(this);
+    panel_->PaintBehind(dc, GetPosition());
+    Draw(dc);
+}
+
+void PictureControl::Click() {
+    if (IsEnabled() && onClick)
+        onClick();
+}
+
+CommandItemControl::CommandItemControl(PicturePanel* parent, std::size_t index,
+                                       const wxString& caption, bool hasWindowBackground)
+    : PictureControl(parent, wxString::Format("cmdbuttons(%zu)", index)),
+      hasWindowBackground_(hasWindowBackground) {
+    SetCaption(caption);
+}
+
+void CommandItemControl::SetCaption(const wxString& caption) {
+    if (caption == caption_)
+        return;
+    caption_ = caption;
+    SetAccessibleLabel(caption);
+    Refresh();
+}
+
+void CommandItemControl::SetHovered(bool isHovered) {
+    if (isHovered == isHovered_)
+        return;
+    isHovered_ = isHovered;
+    Refresh();
+}
+
+void CommandItemControl::SetColours(const wxColour& enabled, const wxColour& disabled,
+                                    const wxColour& background) {
+    enabledColour_ = enabled;
+    disabledColour_ = disabled;
+    background_ = background;
+    Refresh();
+}
+
+wxSize CommandItemControl::NaturalSize() const {
+    return GetTextExtent(caption_);
+}
+
+void CommandItemControl::Draw(wxDC& dc) {
+    const wxRect area = GetClientRect();
+    if (hasWindowBackground_) {
+        dc.SetPen(*wxTRANSPARENT_PEN);
+        dc.SetBrush(background_);
+        dc.DrawRectangle(area);
+    }
+    dc.SetFont(isHovered_ && IsEnabled() ? GetFont().Underlined() : GetFont());
+    dc.SetTextForeground(IsEnabled() ? enabledColour_ : disabledColour_);
+    const wxSize text = dc.GetTextExtent(caption_);
+    const int top = (area.height - text.y) / 2;
+    dc.DrawText(caption_, 0, top);
+}
+
+PictureButton::PictureButton(PicturePanel* parent, const wxString& name, const wxString& label,
+                             std::string enabledPath, std::string disabledPath)
+    : PictureControl(parent, name), paths_{std::move(disabledPath), std::move(enabledPath)} {
+    SetAccessibleLabel(label);
+    SetToolTip(label);
+}
+
+void PictureButton::Draw(wxDC& dc) {
+    const wxSize size = GetClientSize();
+    if (size != loadedFor_) {
+        loadedFor_ = size;
+        for (std::size_t i = 0; i < 2; ++i)
+            pictures_[i] = LoadPicture(*this, paths_[i], size);
+    }
+    const wxBitmap& picture = pictures_[IsEnabled() ? 1 : 0];
+    if (picture.IsOk())
+        dc.DrawBitmap(picture, 0, 0, true);
+}
+
+}  // namespace marlo::gui

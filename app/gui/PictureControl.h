@@ -1,0 +1,74 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <wx/bitmap.h>
+#include <wx/window.h>
+
+#include "app/gui/PicturePanel.h"
+
+namespace marlo::gui {
+
+/// A control on a picture that is clicked, by mouse, Enter or Space, and draws itself.
+class PictureControl : public wxWindow {
+  public:
+    std::function<void()> onClick;
+    std::function<void()> onMouseMove;
+
+  protected:
+    PictureControl(PicturePanel* parent, const wxString& name);
+
+    void SetAccessibleLabel(const wxString& label);
+    virtual void Draw(wxDC& dc) = 0;
+
+    PicturePanel& Panel() const { return *panel_; }
+
+  private:
+    void Paint();
+    void Click();
+
+    PicturePanel* panel_;
+    bool isPressed_ = false;
+};
+
+/// A command item: a caption like a link's.
+class CommandItemControl final : public PictureControl {
+  public:
+    /// @param hasWindowBackground whether it hides the picture.
+    CommandItemControl(PicturePanel* parent, std::size_t index, const wxString& caption,
+                       bool hasWindowBackground);
+
+    void SetCaption(const wxString& caption);
+    void SetHovered(bool isHovered);
+    void SetColours(const wxColour& enabled, const wxColour& disabled, const wxColour& background);
+    wxSize NaturalSize() const;
+
+    const wxString& Caption() const { return caption_; }
+    bool IsHovered() const { return isHovered_; }
+
+  private:
+    void Draw(wxDC& dc) override;
+
+    wxString caption_;
+    bool hasWindowBackground_;
+    bool isHovered_ = false;
+    wxColour enabledColour_;
+    wxColour disabledColour_;
+    wxColour background_;
+};
+
+/// A button that is a picture, in colour while it is enabled and in grey while it is not.
+class PictureButton final : public PictureControl {
+  public:
+    PictureButton(PicturePanel* parent, const wxString& name, const wxString& label,
+                  std::string enabledPath, std::string disabledPath);
+
+  private:
+    void Draw(wxDC& dc) override;
+
+    std::string paths_[2];  ///< disabled, enabled
+    wxBitmap pictures_[2];
+    wxSize loadedFor_;
+};
+
+}  // namespace marlo::gui

@@ -1,0 +1,70 @@
+#include "app/gui/Pictures.h"
+
+#include <algorithm>
+#include <cmath>
+#include <system_error>
+#include <wx/bmpbndl.h>
+#include <wx/image.h>
+#include <wx/window.h>
+
+#include "app/gui/TextConversion.h"
+#include "platform/FileSystem.h"
+
+namespace marlo::gui {
+
+namespace {
+
+/// The size in the dots of the window's screen.
+wxSize Dots(const wxWindow& window, const wxSize& size) {
+    const double scale = window.GetContentScaleFactor();
+    return {static_cast<int>(std::lround(size.x * scale)),
+            static_cast<int>(std::lround(size.y * scale))};
+}
+
+wxBitmap Sharp(const wxWindow& window, wxBitmap bitmap) {
+    if (bitmap.IsOk())
+        bitmap.SetScaleFactor(window.GetContentScaleFactor());
+    return bitmap;
+}
+
+bool IsDrawing(const std::string& path) {
+    return path.ends_with(".svg");
+}
+
+}  // namespace
+
+std::string PicturePath(const std::string& applicationFolder, const std::string& name) {
+    const auto in = [&](const std::string& folder) {
+        return platform::JoinPath(platform::JoinPath(folder, "icons"), name);
+    };
+    std::error_code error;
+    const std::string own = in(applicationFolder);
+    return platform::IsFile(own, error) ? own : in(platform::ProgramFolder());
+}
+
+wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSize& size) {
+    std::error_code error;
+    if (!platform::IsFile(path, error))
+        return {};
+    const wxSize dots = Dots(window, size);
+    if (IsDrawing(path))
+        return Sharp(window, wxBitmapBundle::FromSVGFile(ToolkitPath(path), dots).GetBitmap(dots));
+    wxImage image(ToolkitPath(path));
+    if (!image.IsOk())
+        return {};
+    if (!image.HasAlpha())
+        image.InitAlpha();  // else the mask's colour bleeds into the edges
+    return Sharp(window, wxBitmap(image.Scale(dots.x, dots.y, wxIMAGE_QUALITY_HIGH)));
+}
+
+wxBitmap LoadBackground(const wxWindow& window, const std::string& path, const wxSize& drawnSize,
+                        const wxSize& size) {
+    const double enlargement = std::max(static_cast<double>(size.x) / drawnSize.x,
+                                        static_cast<double>(size.y) / drawnSize.y);
+    const auto enlarged = [&](int length) {
+        return static_cast<int>(std::ceil(length * enlargement));
+    };
+    return LoadPicture(window, path, {enlarged(drawnSize.x), enlarged(drawnSize.y)});
+}
+
+}  // namespace marlo::gui

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <wx/bitmap.h>
+
+class wxWindow;
+
+namespace marlo::gui {
+
+/// The full path of one of the program's pictures, by its name in "icons": under the application
+/// folder, or beside the program where that has none.
+std::string PicturePath(const std::string& applicationFolder, const std::string& name);
+
+/// A picture file in a size, sharp on the window's screen; invalid when there is no such file.
+/// @param size in the window's pixels.
+wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSize& size);
+
+/// A picture that covers a size from its left top corner, undistorted: it may be larger.
+/// @param drawnSize the size that it was drawn in.
+/// @param size in the window's pixels.
+wxBitmap LoadBackground(const wxWindow& window, const std::string& path, const wxSize& drawnSize,
+                        const wxSize& size);
+
+}  // namespace marlo::gui

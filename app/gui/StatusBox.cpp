@@ -1,0 +1,56 @@
+#include "app/gui/StatusBox.h"
+
+#include <wx/control.h>
+#include <wx/dcbuffer.h>
+#include <wx/settings.h>
+
+#include "app/gui/TwipScale.h"
+#include "platform/Toolkit.h"
+
+namespace marlo::gui {
+
+namespace {
+
+constexpr int kPadding = 6;  // design pixels
+
+}  // namespace
+
+StatusBox::StatusBox(wxWindow* parent, const wxString& name) {
+    SetBackgroundStyle(wxBG_STYLE_PAINT);
+    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE, name);
+    Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
+}
+
+void StatusBox::SetText(const wxString& text) {
+    if (text == text_)
+        return;
+    text_ = text;
+    platform::SetAccessibleName(GetHandle(), platform::ControlRole::Text, text.utf8_string());
+    Refresh();
+}
+
+int StatusBox::NaturalHeight() const {
+    return GetCharHeight() + DesignPixels(*this, kPadding);
+}
+
+void StatusBox::Paint() {
+    wxAutoBufferedPaintDC dc(this);
+    const wxRect area = GetClientRect();
+    const wxColour background = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE);
+    const wxColour text = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
+    dc.SetBackground(background);
+    dc.Clear();
+    const bool isDark = text.GetLuminance() > background.GetLuminance();
+    dc.SetPen(background.ChangeLightness(isDark ? 140 : 85));
+    dc.DrawLine(area.GetTopLeft(), area.GetTopRight());
+    if (GetPosition().x > 0)
+        dc.DrawLine(area.GetTopLeft(), area.GetBottomLeft());
+    dc.SetFont(GetFont());
+    dc.SetTextForeground(text);
+    const int padding = DesignPixels(*this, kPadding);
+    const wxString fitting =
+        wxControl::Ellipsize(text_, dc, wxELLIPSIZE_MIDDLE, area.width - 2 * padding);
+    dc.DrawText(fitting, padding, (area.height - dc.GetCharHeight()) / 2 + 1);
+}
+
+}  // namespace marlo::gui

@@ -1,0 +1,58 @@
+#include "app/gui/Theme.h"
+
+#include <wx/settings.h>
+
+#include "reports/Ledger.h"
+#include "ui/Contrast.h"
+
+namespace marlo::gui {
+
+namespace {
+
+// Where the right pane's picture is furthest from the window's colour.
+const wxColour kLightSearchBar(0xE0, 0xEB, 0xFB);
+const wxColour kDarkSearchBar(0x34, 0x41, 0x54);
+
+Rgb RgbOf(const wxColour& colour) {
+    return {colour.Red(), colour.Green(), colour.Blue()};
+}
+
+wxColour Readable(const wxColour& text, const wxColour& background, double contrast) {
+    const Rgb made = MadeReadable(RgbOf(text), RgbOf(background), contrast);
+    return {made.red, made.green, made.blue};
+}
+
+/// The highlight colour is the items' own; only where it cannot be made out at all, as in some dark
+/// themes, it is changed as far as a text needs.
+wxColour ItemColour(const wxColour& background) {
+    const wxColour highlight = wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT);
+    if (ContrastOf(RgbOf(highlight), RgbOf(background)) >= kShapeContrast)
+        return highlight;
+    return Readable(highlight, background, kTextContrast);
+}
+
+}  // namespace
+
+Theme CurrentTheme() {
+    const wxColour window = wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW);
+    Theme theme;
+    theme.isDark = wxSystemSettings::GetAppearance().IsUsingDarkBackground();
+    theme.itemBackground = window;
+    theme.item = ItemColour(window);
+    theme.itemOnSearchBar = ItemColour(theme.isDark ? kDarkSearchBar : kLightSearchBar);
+    theme.disabledItem =
+        Readable(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT), window, kTextContrast);
+    theme.heading = theme.isDark ? wxColour(0xE6, 0xEE, 0xFA) : wxColour(0x1E, 0x2A, 0x3A);
+    theme.label = theme.heading;
+    theme.focusRing = theme.item;
+    theme.paneFrame = theme.isDark ? wxColour(0x47, 0x4D, 0x57) : wxColour(0xC3, 0xD0, 0xE4);
+    theme.greyedRow = Readable(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW),
+                               ColourOf(kLedgerBar2), kTextContrast);
+    return theme;
+}
+
+wxColour ColourOf(int colour) {
+    return wxColour(static_cast<unsigned long>(colour));  // the toolkit's own order of bytes
+}
+
+}  // namespace marlo::gui

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <wx/colour.h>
+
+namespace marlo::gui {
+
+/// The colours that the program chooses by itself, for the desktop's theme of the moment.
+struct Theme {
+    bool isDark = false;
+    wxColour item;  ///< the text of a command item
+    wxColour itemOnSearchBar;
+    wxColour disabledItem;
+    wxColour itemBackground;
+    wxColour heading;  ///< "Menu"
+    wxColour label;    ///< a text on a pane's picture
+    wxColour paneFrame;
+    wxColour focusRing;
+    wxColour greyedRow;  ///< on both bands of a list
+};
+
+/// The texts on the bands of a list and in the search box, which are light in every theme.
+inline const wxColour kTextOnLight(0x1A, 0x1A, 0x1A);
+
+Theme CurrentTheme();
+
+/// A colour value with blue in the high byte and red in the low one.
+wxColour ColourOf(int colour);
+
+}  // namespace marlo::gui

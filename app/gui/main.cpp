@@ -1,0 +1,100 @@
+#include <iostream>
+#include <memory>
+#include <string>
+#include <system_error>
+#include <wx/app.h>
+#include <wx/image.h>
+
+#include <CLI/CLI.hpp>
+
+#include "app/gui/Form1Window.h"
+#include "platform/FileSystem.h"
+#include "platform/Machine.h"
+
+namespace marlo::gui {
+
+namespace {
+
+/// What the program was started with.
+struct Options {
+    std::string applicationFolder = platform::ProgramFolder();
+    std::string winePrefix;  ///< empty for the user's own
+};
+
+/// Where the help and donation pages are: beside the program, unless it was built for a web site.
+std::string HelpSite() {
+    const std::string site = MARLO_HELP_SITE;
+    return site.empty() ? platform::JoinPath(platform::ProgramFolder(), "site") : site;
+}
+
+class MarloApp final : public wxApp {
+  public:
+    explicit MarloApp(const Application& application) : application_(application) {}
+
+    bool OnInit() override {
+        SetAppName("marlo");
+        SetAppDisplayName("Marlo");
+        wxImage::AddHandler(new wxGIFHandler);
+        wxImage::AddHandler(new wxICOHandler);
+        wxImage::AddHandler(new wxPNGHandler);
+        (new Form1Window(application_, HelpSite()))->wxFrame::Show();
+        return true;
+    }
+
+  private:
+    const Application& application_;
+};
+
+int Complain(const std::string& text) {
+    std::cerr << "marlo: " << text << '\n';
+    return 1;
+}
+
+/// Shows the window until it is closed.
+int Run(const Options& options, char* programName) {
+    std::error_code error;
+    const std::string folder = platform::FullPath(options.applicationFolder, error);
+    if (error || !platform::IsFolder(folder, error))
+        return Complain("the application folder " + options.applicationFolder + " does not exist");
+    std::unique_ptr<platform::Registry> prefix;
+    if (!options.winePrefix.empty()) {
+        prefix = platform::OpenWinePrefix(options.winePrefix, error);
+        if (!prefix)
+            return Complain(options.winePrefix + ": no Wine prefix that can be read (" +
+                            error.message() + ")");
+    }
+    const Application application{folder,
+                                  platform::SystemClock(),
+                                  platform::SystemDesktop(),
+                                  prefix ? *prefix : platform::SystemRegistry(),
+                                  {}};
+    wxApp::SetInstance(new MarloApp(application));
+    int count = 1;
+    return wxEntry(count, &programName);
+}
+
+}  // namespace
+
+}  // namespace marlo::gui
+
+int main(int argc, char** argv) {
+    marlo::gui::Options options;
+    CLI::App commandLine(
+        "Which plug-ins do your Cubase SX projects use, and which are installed "
+        "here?",
+        "marlo");
+    commandLine.set_version_flag("--version", "marlo " MARLO_VERSION);
+    commandLine
+        .add_option("--app-folder", options.applicationFolder,
+                    "The application folder, with settings.ini and resultfiles in it (default: the "
+                    "program's own folder)")
+        ->type_name("DIR");
+    commandLine
+        .add_option("--wine-prefix", options.winePrefix,
+                    "The Wine prefix whose DirectX plug-ins are listed (default: WINEPREFIX, else "
+                    "~/.wine)")
+        ->type_name("DIR");
+    commandLine.footer("The terminal program is marlo-cli.");
+    CLI11_PARSE(commandLine, argc, argv);
+    return marlo::gui::Run(options, argv[0]);
+}
