@@ -264,20 +264,17 @@ void Form1::imgRightPane_MouseMove() {
 }
 
 void Form1::SetText1(const std::string& text) {
-    state_.Text1 = text;
-    view_.Show(state_);
+    view_.ShowText1(text);
 }
 
 void Form1::SetText2(const std::string& text) {
-    state_.Text2 = text;
-    view_.Show(state_);
+    view_.ShowText2(text);
 }
 
 void Form1::ClearStatusBar() {
     RunGuarded(application_, "ClearStatusBar", [&] {
-        state_.Text1.clear();
-        state_.Text2.clear();
-        view_.Show(state_);
+        view_.ShowText1("");
+        view_.ShowText2("");
     });
 }
 

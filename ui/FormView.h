@@ -13,8 +13,8 @@
 
 namespace marlo {
 
-/// What the main window's controls show, but for the result list and what the user types or
-/// picks. Texts are fields (see core/Text.h).
+/// What the main window's controls show, but for the status boxes, the result list and what the
+/// user types or picks. Texts are fields (see core/Text.h).
 struct FormState {
     struct Item {
         std::string caption;
@@ -23,8 +23,6 @@ struct FormState {
     };
 
     std::array<Item, kCommandItemCount> cmdbuttons;
-    std::string Text1;
-    std::string Text2;
     bool isFindEnabled = true;
     bool isDonateEnabled = true;
     bool isDonateVisible = true;
@@ -37,6 +35,10 @@ class FormView {
 
     /// Brings the controls in line with the state, which has changed.
     virtual void Show(const FormState& state) = 0;
+    /// Shows texts in the status boxes, fields that change many thousand times in a run: what is
+    /// not on the screen for long enough to be seen should not take time.
+    virtual void ShowText1(const std::string& text) = 0;
+    virtual void ShowText2(const std::string& text) = 0;
     /// Brings the result list in line with its model, which has changed.
     virtual void ShowList() = 0;
 

@@ -17,11 +17,8 @@ class Pace {
         return true;
     }
 
-    /// It was done out of turn.
-    void Restart(Moment now) { last_ = now; }
-
   private:
-    static constexpr std::chrono::milliseconds kInterval{16};  // 60 times a second
+    static constexpr std::chrono::milliseconds kInterval{33};  // 30 times a second
 
     Moment last_{};
 };

@@ -24,7 +24,9 @@ WindowPlace PlaceOf(const wxRect& rect) {
 }  // namespace
 
 AboutDialog::AboutDialog(wxWindow* mainWindow, const std::string& picture) {
-    const frmAbout about = LoadAbout(Version{});
+    const frmAbout about = LoadAbout({.major = MARLO_VERSION_MAJOR,
+                                      .minor = MARLO_VERSION_MINOR,
+                                      .revision = MARLO_VERSION_REVISION});
     Create(mainWindow, wxID_ANY, Shown(about.caption), wxDefaultPosition, wxDefaultSize,
            wxDEFAULT_DIALOG_STYLE, "frmAbout");
     const auto pixels = [this](int length) { return DesignPixels(*this, length); };

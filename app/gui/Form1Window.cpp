@@ -32,6 +32,7 @@ const wxSize kMenuPaneDrawn(176, 430);
 const wxSize kRightPaneDrawn(800, 600);
 
 constexpr double kSmallestItemFont = 0.8;  // of the desktop's usual one
+constexpr int kIconDelay = 50;             // milliseconds
 
 /// A window that shows a picture on a panel's picture.
 template <class PictureOf>
@@ -59,7 +60,7 @@ wxPanel* CreatePane(wxWindow* parent, const wxString& name) {
         wxAutoBufferedPaintDC dc(pane);
         dc.SetBackground(pane->GetParent()->GetBackgroundColour());
         dc.Clear();
-        const Theme theme = CurrentTheme();
+        const Theme& theme = CurrentTheme();
         dc.SetPen(theme.paneFrame);
         dc.SetBrush(theme.itemBackground);
         dc.DrawRoundedRectangle(pane->GetClientRect(), DesignPixels(*pane, 4));
@@ -74,12 +75,12 @@ Form1Window::Form1Window(const Application& application, const std::string& help
               wxDefaultSize, wxDEFAULT_FRAME_STYLE, "Form1"),
       application_(application),
       scale_(*this),
-      timer1_(this),
+      timer1_(this, wxWindow::NewControlId()),
+      iconTimer_(this, wxWindow::NewControlId()),
       folders_(this),
       csvIcons_{IconBox(*this), IconBox(*this)},
       form_(application, *this, helpSite) {
     CreateControls();
-    ChooseItemFont();
     ApplyTheme();
     SetClientSize(scale_.Pixels(kDefaultClientSize.width, kDefaultClientSize.height));
     CentreOnScreen();
@@ -96,8 +97,7 @@ void Form1Window::CreateControls() {
     background_ = new wxPanel(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL);
     boxMenu_ = CreatePane(background_, "boxMenu");
     imgMenu_ = new PicturePanel(boxMenu_, "imgMenu", kMenuPaneDrawn);
-    label5_ = new PictureLabel(imgMenu_, "Label5", "       Menu");
-    label5_->SetFont(GetFont().Bold().Scaled(1.15F));
+    label5_ = new PictureLabel(imgMenu_, "Label5", "       Menu", GetFont().Bold().Scaled(1.15F));
     // Over the blanks of the label.
     image1_ = CreatePictureView(imgMenu_, "Image1", [this](wxWindow* view) {
         return LoadPicture(*view, Picture("menu_mark.svg"), view->GetClientSize());
@@ -120,23 +120,32 @@ void Form1Window::CreateCommandItems() {
     std::sort(order.begin(), order.end(), [](std::size_t a, std::size_t b) {
         return kCommandItems.at(a).top < kCommandItems.at(b).top;
     });
+    const wxFont font = ItemFont();
     std::size_t icon = 0;
     for (const std::size_t i : order) {
         const CommandItem& item = kCommandItems.at(i);
         PicturePanel* const panel = item.pane == Pane::Menu ? imgMenu_ : imgRightPane_;
         auto* const control =
-            new CommandItemControl(panel, i, item.caption, item.hasWindowBackground);
+            new CommandItemControl(panel, i, item.caption, font, item.hasWindowBackground);
         control->onClick = [this, i] { form_.cmdButtons_Click(static_cast<int>(i)); };
         control->onMouseMove = [this, i] { form_.cmdbuttons_MouseMove(i); };
         cmdbuttons_.at(i) = control;
         if (item.command != Command::OpenResults)
             continue;
         IconBox& box = csvIcons_.at(icon);
-        wxWindow* const view =
-            CreatePictureView(panel, wxString::Format("Picture%zu", icon + 2),
-                              [&box](wxWindow* /*view*/) { return box.Picture(); });
-        box.onChange = [view] { view->Refresh(); };
+        wxWindow* const view = CreatePictureView(
+            panel, wxString::Format("Picture%zu", icon + 2),
+            [&box](wxWindow* /*view*/) { return box.IsLoaded() ? box.Picture() : wxBitmap(); });
+        box.onChange = [this] { iconTimer_.StartOnce(kIconDelay); };
         csvIconViews_.at(icon++) = view;
+    }
+}
+
+/// Looking a program's icon up takes long, and nothing has to wait for it.
+void Form1Window::LoadCsvIcons() {
+    for (std::size_t i = 0; i < csvIcons_.size(); ++i) {
+        csvIcons_.at(i).Picture();
+        csvIconViews_.at(i)->Refresh();
     }
 }
 
@@ -144,7 +153,7 @@ void Form1Window::CreateSearchControls() {
     cboSearchType_ = new wxChoice(imgRightPane_, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0,
                                   nullptr, 0, wxDefaultValidator, "cboSearchType");
     platform::SetAccessibleName(cboSearchType_->GetHandle(), "Kind of match");
-    label3_ = new PictureLabel(imgRightPane_, "Label3", "Ignore Case:");
+    label3_ = new PictureLabel(imgRightPane_, "Label3", "Ignore Case:", GetFont());
     chkIgnoreCase_ = new wxCheckBox(imgRightPane_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
                                     0, wxDefaultValidator, "chkIgnoreCase");
     platform::SetAccessibleName(chkIgnoreCase_->GetHandle(), "Ignore Case:");
@@ -159,28 +168,19 @@ void Form1Window::CreateSearchControls() {
 
 /// The items' places were drawn for small texts. They are as large as fits in there, but not much
 /// smaller than the user's other texts; where that is too large, the layout makes room.
-void Form1Window::ChooseItemFont() {
-    const auto widest = [this] {
-        int width = 0;
-        for (const CommandItemControl* item : cmdbuttons_)
-            if (item->GetParent() == imgMenu_)
-                width = std::max(width, item->NaturalSize().x);
-        return width;
-    };
-    const auto setFont = [this](const wxFont& font) {
-        for (CommandItemControl* item : cmdbuttons_)
-            item->SetFont(font);
-    };
-    constexpr double step = 0.05;
-    for (double share = 1; share > kSmallestItemFont - step / 2; share -= step) {
-        setFont(GetFont().Scaled(static_cast<float>(share)));
-        if (widest() <= scale_.Pixels(kCommandItemWidth))
-            return;
-    }
+wxFont Form1Window::ItemFont() const {
+    // Measuring takes long; the widest is among the longest.
+    constexpr std::size_t nearlyLongest = 22;  // characters
+    int widest = 1;
+    for (const CommandItem& item : kCommandItems)
+        if (item.pane == Pane::Menu && std::string_view(item.caption).size() >= nearlyLongest)
+            widest = std::max(widest, GetTextExtent(item.caption).x);
+    const double fitting = static_cast<double>(scale_.Pixels(kCommandItemWidth)) / widest;
+    return GetFont().Scaled(static_cast<float>(std::clamp(fitting, kSmallestItemFont, 1.0)));
 }
 
 void Form1Window::ApplyTheme() {
-    const Theme theme = CurrentTheme();
+    const Theme& theme = CurrentTheme();
     imgMenu_->SetPicture(Picture(theme.isDark ? "menu_pane_dark.svg" : "menu_pane.svg"));
     imgRightPane_->SetPicture(Picture(theme.isDark ? "right_pane_dark.svg" : "right_pane.svg"));
     label5_->SetColour(theme.heading);
@@ -198,11 +198,15 @@ void Form1Window::BindEvents() {
         event.Skip();
         form_.Form_Resize();
     });
-    Bind(wxEVT_TIMER, [this](wxTimerEvent&) { form_.Timer1_Timer(); });
+    Bind(
+        wxEVT_TIMER, [this](wxTimerEvent&) { form_.Timer1_Timer(); }, timer1_.GetId());
+    Bind(
+        wxEVT_TIMER, [this](wxTimerEvent&) { LoadCsvIcons(); }, iconTimer_.GetId());
     Bind(wxEVT_CLOSE_WINDOW, &Form1Window::OnClose, this);
     Bind(wxEVT_CHAR_HOOK, &Form1Window::OnKey, this);
     Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
         event.Skip();
+        RenewTheme();
         ApplyTheme();
     });
     const auto onMotion = [](wxWindow* window, auto handler) {
@@ -267,8 +271,6 @@ void Form1Window::OnKey(wxKeyEvent& event) {
 }
 
 void Form1Window::Show(const FormState& state) {
-    text1_->SetText(Shown(state.Text1));
-    text2_->SetText(Shown(state.Text2));
     FollowFocus(state);
     for (std::size_t i = 0; i < kCommandItemCount; ++i) {
         const FormState::Item& item = state.cmdbuttons.at(i);
@@ -300,6 +302,14 @@ void Form1Window::FollowFocus(const FormState& state) {
         focusAfterRun_->Enable();
         std::exchange(focusAfterRun_, nullptr)->SetFocus();
     }
+}
+
+void Form1Window::ShowText1(const std::string& text) {
+    text1_->SetText(text);
+}
+
+void Form1Window::ShowText2(const std::string& text) {
+    text2_->SetText(text);
 }
 
 void Form1Window::ShowList() {
@@ -397,20 +407,19 @@ void Form1Window::SetProgramIcon(const std::string& path) {
 }
 
 void Form1Window::Repaint() {
-    // What stands in the first box tells a new phase, and something that blocks may come next.
-    const auto now = std::chrono::steady_clock::now();
-    const bool isNewPhase = text1_->Text() != paintedPhase_;
-    if (!isNewPhase && !pace_.IsDue(now))
+    // A new phase may begin with something that blocks. A percentage is no phase, and what else
+    // changes is painted with the events that run.
+    std::string phase = text1_->Text();
+    std::erase_if(phase, [](char c) { return c >= '0' && c <= '9'; });
+    if (phase.empty() || phase == paintedPhase_)
         return;
-    pace_.Restart(now);
-    paintedPhase_ = text1_->Text();
+    paintedPhase_ = std::move(phase);
     Update();
 }
 
 void Form1Window::LetEventsRun() {
     wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
-    if (loop != nullptr && !loop->IsYielding() &&
-        eventPace_.IsDue(std::chrono::steady_clock::now()))
+    if (loop != nullptr && !loop->IsYielding() && pace_.IsDue(std::chrono::steady_clock::now()))
         loop->YieldFor(wxEVT_CATEGORY_ALL);
 }
 

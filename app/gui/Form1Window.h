@@ -26,11 +26,18 @@ class Form1Window final : public wxFrame, private FormView {
   public:
     /// @param helpSite see `Form1`.
     Form1Window(const Application& application, const std::string& helpSite);
+    Form1Window(const Form1Window&) = delete;
+    Form1Window& operator=(const Form1Window&) = delete;
+    Form1Window(Form1Window&&) = delete;
+    Form1Window& operator=(Form1Window&&) = delete;
+    ~Form1Window() override { DestroyChildren(); }  // which tell the logic what happens to them
 
     Form1& Logic() { return form_; }
 
   private:
     void Show(const FormState& state) override;
+    void ShowText1(const std::string& text) override;
+    void ShowText2(const std::string& text) override;
     void ShowList() override;
     NaturalSizes Sizes() const override;
     TwipSize ClientArea() const override;
@@ -63,8 +70,9 @@ class Form1Window final : public wxFrame, private FormView {
 
     void CreateControls();
     void CreateCommandItems();
+    void LoadCsvIcons();
     void CreateSearchControls();
-    void ChooseItemFont();
+    wxFont ItemFont() const;
     void ApplyTheme();
     void BindEvents();
     void BindListEvents();
@@ -77,11 +85,11 @@ class Form1Window final : public wxFrame, private FormView {
     const Application& application_;
     TwipScale scale_;
     wxTimer timer1_;
+    wxTimer iconTimer_;
     FolderPicker folders_;
     std::array<IconBox, 2> csvIcons_;
     Pace pace_;
-    Pace eventPace_;
-    wxString paintedPhase_;
+    std::string paintedPhase_;
     wxWindow* focusAfterRun_ = nullptr;
 
     wxPanel* background_ = nullptr;

@@ -104,7 +104,7 @@ void LedgerList::AutoSizeColumns() {
 
 void LedgerList::SetLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
                            std::int32_t sizingKind) {
-    const Theme theme = CurrentTheme();
+    const Theme& theme = CurrentTheme();
     for (int parity = 0; parity < 2; ++parity)
         for (int isGreyed = 0; isGreyed < 2; ++isGreyed)
             bands_[parity][isGreyed] = {isGreyed == 1 ? theme.greyedRow : kTextOnLight,

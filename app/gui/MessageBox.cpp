@@ -1,6 +1,10 @@
 #include "app/gui/MessageBox.h"
 
+// The second one builds on the first.
+// clang-format off
 #include <wx/msgdlg.h>
+#include <wx/generic/msgdlgg.h>
+// clang-format on
 
 #include "app/gui/TextConversion.h"
 
@@ -25,7 +29,7 @@ long ButtonStyle(MessageButtons buttons) {
 long IconStyle(MessageIcon icon) {
     switch (icon) {
         case MessageIcon::None:
-            return wxICON_NONE;
+            return 0;  // the toolkit has a flag for it, and does not know it everywhere
         case MessageIcon::Information:
             return wxICON_INFORMATION;
         case MessageIcon::Exclamation:
@@ -33,14 +37,15 @@ long IconStyle(MessageIcon icon) {
         case MessageIcon::Question:
             return wxICON_QUESTION;
     }
-    return wxICON_NONE;
+    return 0;
 }
 
 }  // namespace
 
 MessageAnswer ShowMessageBox(wxWindow* owner, const Message& message) {
-    wxMessageDialog box(owner, Shown(message.text), Shown(message.title),
-                        ButtonStyle(message.buttons) | IconStyle(message.icon) | wxCENTRE);
+    // Not every desktop's own box shows its icon.
+    wxGenericMessageDialog box(owner, Shown(message.text), Shown(message.title),
+                               ButtonStyle(message.buttons) | IconStyle(message.icon) | wxCENTRE);
     switch (box.ShowModal()) {
         case wxID_OK:
             return MessageAnswer::Ok;

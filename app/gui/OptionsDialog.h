@@ -23,6 +23,11 @@ class OptionsDialog final : public wxDialog, private OptionsView {
     /// @param firstCsvBox, secondCsvBox the main window's, for the icon of the program chosen.
     OptionsDialog(wxWindow* mainWindow, const Application& application, PictureBox& firstCsvBox,
                   PictureBox& secondCsvBox);
+    OptionsDialog(const OptionsDialog&) = delete;
+    OptionsDialog& operator=(const OptionsDialog&) = delete;
+    OptionsDialog(OptionsDialog&&) = delete;
+    OptionsDialog& operator=(OptionsDialog&&) = delete;
+    ~OptionsDialog() override { DestroyChildren(); }  // which tell the logic what happens to them
 
   private:
     void Show(const OptionsState& state) override;

@@ -12,7 +12,7 @@ namespace marlo::gui {
 PictureControl::PictureControl(PicturePanel* parent, const wxString& name) : panel_(parent) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxWANTS_CHARS, name);
-    SetCursor(wxCursor(wxCURSOR_HAND));
+    SetCursor(panel_->HandCursor());
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
     Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
         panel_->MarkFocus(this);
@@ -65,8 +65,10 @@ void PictureControl::Click() {
 }
 
 CommandItemControl::CommandItemControl(PicturePanel* parent, std::size_t index,
-                                       const wxString& caption, bool hasWindowBackground)
+                                       const wxString& caption, const wxFont& font,
+                                       bool hasWindowBackground)
     : PictureControl(parent, wxString::Format("cmdbuttons(%zu)", index)),
+      font_(font),
       hasWindowBackground_(hasWindowBackground) {
     SetCaption(caption);
 }
@@ -75,6 +77,7 @@ void CommandItemControl::SetCaption(const wxString& caption) {
     if (caption == caption_)
         return;
     caption_ = caption;
+    GetTextExtent(caption, &naturalSize_.x, &naturalSize_.y, nullptr, nullptr, &font_);
     SetAccessibleLabel(caption);
     Refresh();
 }
@@ -94,10 +97,6 @@ void CommandItemControl::SetColours(const wxColour& enabled, const wxColour& dis
     Refresh();
 }
 
-wxSize CommandItemControl::NaturalSize() const {
-    return GetTextExtent(caption_);
-}
-
 void CommandItemControl::Draw(wxDC& dc) {
     const wxRect area = GetClientRect();
     if (hasWindowBackground_) {
@@ -105,11 +104,9 @@ void CommandItemControl::Draw(wxDC& dc) {
         dc.SetBrush(background_);
         dc.DrawRectangle(area);
     }
-    dc.SetFont(isHovered_ && IsEnabled() ? GetFont().Underlined() : GetFont());
+    dc.SetFont(isHovered_ && IsEnabled() ? font_.Underlined() : font_);
     dc.SetTextForeground(IsEnabled() ? enabledColour_ : disabledColour_);
-    const wxSize text = dc.GetTextExtent(caption_);
-    const int top = (area.height - text.y) / 2;
-    dc.DrawText(caption_, 0, top);
+    dc.DrawText(caption_, 0, (area.height - naturalSize_.y) / 2);
 }
 
 PictureButton::PictureButton(PicturePanel* parent, const wxString& name, const wxString& label,

@@ -36,12 +36,13 @@ class CommandItemControl final : public PictureControl {
   public:
     /// @param hasWindowBackground whether it hides the picture.
     CommandItemControl(PicturePanel* parent, std::size_t index, const wxString& caption,
-                       bool hasWindowBackground);
+                       const wxFont& font, bool hasWindowBackground);
 
     void SetCaption(const wxString& caption);
     void SetHovered(bool isHovered);
     void SetColours(const wxColour& enabled, const wxColour& disabled, const wxColour& background);
-    wxSize NaturalSize() const;
+    /// The size that the caption needs.
+    wxSize NaturalSize() const { return naturalSize_; }
 
     const wxString& Caption() const { return caption_; }
     bool IsHovered() const { return isHovered_; }
@@ -50,6 +51,8 @@ class CommandItemControl final : public PictureControl {
     void Draw(wxDC& dc) override;
 
     wxString caption_;
+    wxFont font_;  ///< not the toolkit's one for the control, which costs more than the control
+    wxSize naturalSize_;
     bool hasWindowBackground_;
     bool isHovered_ = false;
     wxColour enabledColour_;

@@ -63,18 +63,20 @@ void PicturePanel::LoadFor(const wxSize& size) {
     picture_ = LoadBackground(*this, path_, drawnSize_, loadedFor_);
 }
 
-PictureLabel::PictureLabel(PicturePanel* parent, const wxString& name, const wxString& text)
-    : text_(text) {
+PictureLabel::PictureLabel(PicturePanel* parent, const wxString& name, const wxString& text,
+                           const wxFont& font)
+    : text_(text), font_(font) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE, name);
     platform::SetAccessibleName(GetHandle(), platform::ControlRole::Text,
                                 wxString(text).Trim(false).utf8_string());
+    GetTextExtent(text_, &textSize_.x, &textSize_.y, nullptr, nullptr, &font_);
     Bind(wxEVT_PAINT, [this, parent](wxPaintEvent&) {
         wxAutoBufferedPaintDC dc(this);
         parent->PaintBehind(dc, GetPosition());
-        dc.SetFont(GetFont());
+        dc.SetFont(font_);
         dc.SetTextForeground(colour_);
-        dc.DrawText(text_, 0, (GetClientSize().y - dc.GetCharHeight()) / 2);
+        dc.DrawText(text_, 0, (GetClientSize().y - textSize_.y) / 2);
     });
 }
 

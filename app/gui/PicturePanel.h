@@ -2,6 +2,8 @@
 
 #include <string>
 #include <wx/bitmap.h>
+#include <wx/cursor.h>
+#include <wx/font.h>
 #include <wx/panel.h>
 
 namespace marlo::gui {
@@ -18,6 +20,9 @@ class PicturePanel final : public wxPanel {
     /// @param origin the control's left top corner in the panel.
     void PaintBehind(wxDC& dc, const wxPoint& origin);
 
+    /// The pointer over what can be clicked, one for all of them.
+    const wxCursor& HandCursor() const { return handCursor_; }
+
     /// Paints a ring around the control that has the focus; none for nullptr.
     void MarkFocus(wxWindow* control);
 
@@ -31,20 +36,24 @@ class PicturePanel final : public wxPanel {
     wxBitmap picture_;
     wxSize loadedFor_;
     wxWindow* focused_ = nullptr;
+    wxCursor handCursor_{wxCURSOR_HAND};
 };
 
 /// A text on a picture, which does nothing.
 class PictureLabel final : public wxWindow {
   public:
-    PictureLabel(PicturePanel* parent, const wxString& name, const wxString& text);
+    PictureLabel(PicturePanel* parent, const wxString& name, const wxString& text,
+                 const wxFont& font);
 
     void SetColour(const wxColour& colour);
-    wxSize TextSize() const { return GetTextExtent(text_); }
+    wxSize TextSize() const { return textSize_; }
 
     bool AcceptsFocus() const override { return false; }
 
   private:
     wxString text_;
+    wxFont font_;
+    wxSize textSize_;
     wxColour colour_;
 };
 

@@ -4,6 +4,7 @@
 #include <wx/dcbuffer.h>
 #include <wx/settings.h>
 
+#include "app/gui/TextConversion.h"
 #include "app/gui/TwipScale.h"
 #include "platform/Toolkit.h"
 
@@ -21,12 +22,13 @@ StatusBox::StatusBox(wxWindow* parent, const wxString& name) {
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
 }
 
-void StatusBox::SetText(const wxString& text) {
+void StatusBox::SetText(const std::string& text) {
     if (text == text_)
         return;
     text_ = text;
-    platform::SetAccessibleName(GetHandle(), platform::ControlRole::Text, text.utf8_string());
-    Refresh();
+    if (!isDirty_)
+        Refresh();
+    isDirty_ = true;
 }
 
 int StatusBox::NaturalHeight() const {
@@ -34,22 +36,25 @@ int StatusBox::NaturalHeight() const {
 }
 
 void StatusBox::Paint() {
+    isDirty_ = false;
+    const wxString text = Shown(text_);
+    platform::SetAccessibleName(GetHandle(), platform::ControlRole::Text, text.utf8_string());
     wxAutoBufferedPaintDC dc(this);
     const wxRect area = GetClientRect();
     const wxColour background = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE);
-    const wxColour text = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
+    const wxColour textColour = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNTEXT);
     dc.SetBackground(background);
     dc.Clear();
-    const bool isDark = text.GetLuminance() > background.GetLuminance();
+    const bool isDark = textColour.GetLuminance() > background.GetLuminance();
     dc.SetPen(background.ChangeLightness(isDark ? 140 : 85));
     dc.DrawLine(area.GetTopLeft(), area.GetTopRight());
     if (GetPosition().x > 0)
         dc.DrawLine(area.GetTopLeft(), area.GetBottomLeft());
     dc.SetFont(GetFont());
-    dc.SetTextForeground(text);
+    dc.SetTextForeground(textColour);
     const int padding = DesignPixels(*this, kPadding);
     const wxString fitting =
-        wxControl::Ellipsize(text_, dc, wxELLIPSIZE_MIDDLE, area.width - 2 * padding);
+        wxControl::Ellipsize(text, dc, wxELLIPSIZE_MIDDLE, area.width - 2 * padding);
     dc.DrawText(fitting, padding, (area.height - dc.GetCharHeight()) / 2 + 1);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <wx/window.h>
 
 namespace marlo::gui {
@@ -10,9 +11,10 @@ class StatusBox final : public wxWindow {
   public:
     StatusBox(wxWindow* parent, const wxString& name);
 
-    /// Cheap: the text is drawn when the window is painted next.
-    void SetText(const wxString& text);
-    const wxString& Text() const { return text_; }
+    /// Takes next to no time: only what is painted is decoded and measured.
+    /// @param text a field.
+    void SetText(const std::string& text);
+    const std::string& Text() const { return text_; }
 
     int NaturalHeight() const;
 
@@ -21,7 +23,8 @@ class StatusBox final : public wxWindow {
   private:
     void Paint();
 
-    wxString text_;
+    std::string text_;
+    bool isDirty_ = false;  ///< it will be painted anyway
 };
 
 }  // namespace marlo::gui

@@ -2,7 +2,6 @@
 
 #include <wx/settings.h>
 
-#include "reports/Ledger.h"
 #include "ui/Contrast.h"
 
 namespace marlo::gui {
@@ -12,6 +11,9 @@ namespace {
 // Where the right pane's picture is furthest from the window's colour.
 const wxColour kLightSearchBar(0xE0, 0xEB, 0xFB);
 const wxColour kDarkSearchBar(0x34, 0x41, 0x54);
+
+// The bands of a list are light in every theme, so its grey is no theme's.
+const wxColour kGreyedRow(0x6B, 0x6B, 0x6B);
 
 Rgb RgbOf(const wxColour& colour) {
     return {colour.Red(), colour.Green(), colour.Blue()};
@@ -31,9 +33,7 @@ wxColour ItemColour(const wxColour& background) {
     return Readable(highlight, background, kTextContrast);
 }
 
-}  // namespace
-
-Theme CurrentTheme() {
+Theme ReadTheme() {
     const wxColour window = wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW);
     Theme theme;
     theme.isDark = wxSystemSettings::GetAppearance().IsUsingDarkBackground();
@@ -46,9 +46,23 @@ Theme CurrentTheme() {
     theme.label = theme.heading;
     theme.focusRing = theme.item;
     theme.paneFrame = theme.isDark ? wxColour(0x47, 0x4D, 0x57) : wxColour(0xC3, 0xD0, 0xE4);
-    theme.greyedRow = Readable(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNSHADOW),
-                               ColourOf(kLedgerBar2), kTextContrast);
+    theme.greyedRow = kGreyedRow;
     return theme;
+}
+
+Theme& StoredTheme() {
+    static Theme theme = ReadTheme();
+    return theme;
+}
+
+}  // namespace
+
+const Theme& CurrentTheme() {
+    return StoredTheme();
+}
+
+void RenewTheme() {
+    StoredTheme() = ReadTheme();
 }
 
 wxColour ColourOf(int colour) {

@@ -21,7 +21,9 @@ struct Theme {
 /// The texts on the bands of a list and in the search box, which are light in every theme.
 inline const wxColour kTextOnLight(0x1A, 0x1A, 0x1A);
 
-Theme CurrentTheme();
+/// The theme as it was when the program started, or when it was renewed last.
+const Theme& CurrentTheme();
+void RenewTheme();
 
 /// A colour value with blue in the high byte and red in the low one.
 wxColour ColourOf(int colour);

@@ -2,12 +2,11 @@
 #include <memory>
 #include <string>
 #include <system_error>
-#include <wx/app.h>
-#include <wx/image.h>
 
 #include <CLI/CLI.hpp>
 
 #include "app/gui/Form1Window.h"
+#include "app/gui/GuiApp.h"
 #include "platform/FileSystem.h"
 #include "platform/Machine.h"
 
@@ -27,16 +26,12 @@ std::string HelpSite() {
     return site.empty() ? platform::JoinPath(platform::ProgramFolder(), "site") : site;
 }
 
-class MarloApp final : public wxApp {
+class MarloApp final : public GuiApp {
   public:
     explicit MarloApp(const Application& application) : application_(application) {}
 
     bool OnInit() override {
-        SetAppName("marlo");
-        SetAppDisplayName("Marlo");
-        wxImage::AddHandler(new wxGIFHandler);
-        wxImage::AddHandler(new wxICOHandler);
-        wxImage::AddHandler(new wxPNGHandler);
+        GuiApp::OnInit();
         (new Form1Window(application_, HelpSite()))->wxFrame::Show();
         return true;
     }
@@ -95,6 +90,11 @@ int main(int argc, char** argv) {
                     "~/.wine)")
         ->type_name("DIR");
     commandLine.footer("The terminal program is marlo-cli.");
-    CLI11_PARSE(commandLine, argc, argv);
+    try {
+        commandLine.parse(argc, argv);
+    } catch (const CLI::ParseError& ending) {
+        constexpr int wrongUsage = 2;
+        return commandLine.exit(ending) == 0 ? 0 : wrongUsage;
+    }
     return marlo::gui::Run(options, argv[0]);
 }

@@ -1,24 +1,14 @@
 #include "tests/gui/GuiTest.h"
 
-#include <chrono>
 #include <stdexcept>
-#include <wx/app.h>
-#include <wx/evtloop.h>
-#include <wx/utils.h>
+#include <wx/clipbrd.h>
 
 #include "core/Settings.h"
+#include "tools/ProjectWriter.h"
 
 namespace marlo::test {
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-void RunDueEvents() {
-    wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
-    loop->YieldFor(wxEVT_CATEGORY_ALL);
-    wxTheApp->ProcessPendingEvents();
-}
 
 wxPoint MiddleOf(const wxWindow& control) {
     const wxSize size = control.GetSize();
@@ -26,40 +16,6 @@ wxPoint MiddleOf(const wxWindow& control) {
 }
 
 }  // namespace
-
-bool RunEventsUntil(const std::function<bool()>& isReached) {
-    const auto end = Clock::now() + std::chrono::seconds(10);
-    while (!isReached()) {
-        if (Clock::now() > end)
-            return false;
-        RunDueEvents();
-        wxMilliSleep(2);
-    }
-    return true;
-}
-
-void RunEvents() {
-    // What a click leads to comes from the display in its own time.
-    const auto end = Clock::now() + std::chrono::milliseconds(120);
-    while (Clock::now() < end) {
-        RunDueEvents();
-        wxMilliSleep(2);
-    }
-}
-
-int DialogHandlers::Enter(wxDialog* dialog) {
-    ++count_;
-    if (handlers_.empty()) {
-        ADD_FAILURE() << "nobody expects the dialog " << dialog->GetTitle();
-        return wxID_CANCEL;
-    }
-    dialog->CallAfter([dialog, handler = handlers_.front()] {
-        RunEvents();
-        handler(*dialog);
-    });
-    handlers_.pop_front();
-    return wxID_NONE;
-}
 
 GuiTest::GuiTest() {
     // Not asked for by most tests, and logged when it is not there.
@@ -70,7 +26,7 @@ GuiTest::~GuiTest() {
     if (window_ == nullptr)
         return;
     window_->Destroy();
-    RunEvents();
+    EXPECT_TRUE(RunEventsUntil([&] { return window_ == nullptr; }));
 }
 
 void GuiTest::Open() {
@@ -81,7 +37,7 @@ void GuiTest::Open() {
         if (event.GetEventObject() == window_)
             window_ = nullptr;
     });
-    ASSERT_TRUE(RunEventsUntil([&] { return window_->IsShownOnScreen() && window_->IsActive(); }));
+    ASSERT_TRUE(RunEventsUntil([&] { return window_->IsActive() && HasKeyboard(*window_); }));
     RunEvents();
 }
 
@@ -90,11 +46,15 @@ void GuiTest::CloseWindow() {
     ASSERT_TRUE(RunEventsUntil([&] { return window_ == nullptr; }));
 }
 
-wxWindow& GuiTest::FindAny(const std::string& name) {
-    wxWindow* const found = wxWindow::FindWindowByName(name);
+wxWindow& GuiTest::FindAny(const std::string& name, const wxWindow* window) {
+    wxWindow* const found = wxWindow::FindWindowByName(name, window);
     if (found == nullptr)
         throw std::runtime_error("there is no control " + name);
     return *found;
+}
+
+std::string GuiTest::StatusText(const std::string& box) {
+    return Find<gui::StatusBox>(box).Text();
 }
 
 void GuiTest::MoveTo(wxWindow& control, const wxPoint& point) {
@@ -110,9 +70,9 @@ void GuiTest::Click(wxWindow& control) {
     ClickAt(control, MiddleOf(control));
 }
 
-void GuiTest::ClickAt(wxWindow& control, const wxPoint& point) {
+void GuiTest::ClickAt(wxWindow& control, const wxPoint& point, int button) {
     MoveTo(control, point);
-    mouse_.MouseClick();
+    mouse_.MouseClick(button);
     RunEvents();
 }
 
@@ -123,6 +83,8 @@ void GuiTest::DoubleClickAt(wxWindow& control, const wxPoint& point) {
 }
 
 void GuiTest::Press(int key, int modifiers) {
+    // After a dialog, the window gets it back from the window manager in its own time.
+    EXPECT_TRUE(RunEventsUntil([] { return HasKeyboard(); })) << "keys go nowhere";
     mouse_.Char(key, modifiers);
     RunEvents();
 }
@@ -132,12 +94,22 @@ void GuiTest::Type(const std::string& text) {
     RunEvents();
 }
 
+void GuiTest::Paste(const std::string& text) {
+    const wxClipboardLocker clipboard;
+    wxTheClipboard->SetData(new wxTextDataObject(wxString::FromUTF8(text)));
+    Press('V', wxMOD_CONTROL);
+}
+
 void GuiTest::ChooseInPicker(const wxDialog& picker, const std::string& path) {
     Press('L', wxMOD_CONTROL);
-    Type(path);
-    // The picker looks the path up first, and takes no answer meanwhile.
-    for (int i = 0; i < 20 && picker.IsModal(); ++i)
-        Press(WXK_RETURN);
+    Paste(path);
+    // The picker looks the path up first, and takes no answer meanwhile. What comes after it must
+    // not get the key.
+    RepeatUntil([&] { return !picker.IsModal(); },
+                [&] {
+                    if (HasKeyboard(picker))
+                        mouse_.Char(WXK_RETURN);
+                });
 }
 
 void GuiTest::WriteResultFiles() const {

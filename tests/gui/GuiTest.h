@@ -1,53 +1,20 @@
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
-#include <wx/dialog.h>
-#include <wx/modalhook.h>
 #include <wx/uiaction.h>
 #include <wx/window.h>
 
 #include <gtest/gtest.h>
 
 #include "app/gui/Form1Window.h"
+#include "tests/gui/DialogHandlers.h"
+#include "tests/gui/Display.h"
+#include "tests/gui/Events.h"
 #include "tests/support/ApplicationTest.h"
-#include "tools/ProjectWriter.h"
 
 namespace marlo::test {
-
-/// Runs events until `isReached`, at most some seconds.
-/// @return whether it was reached.
-bool RunEventsUntil(const std::function<bool()>& isReached);
-
-/// Runs events that are due, and those that they lead to.
-void RunEvents();
-
-/// What a test does with the dialogs that open, one after the other: each is handled by the next of
-/// the handlers that were given, which runs while the dialog is shown.
-class DialogHandlers final : public wxModalDialogHook {
-  public:
-    DialogHandlers() { Register(); }
-    DialogHandlers(const DialogHandlers&) = delete;
-    DialogHandlers& operator=(const DialogHandlers&) = delete;
-    ~DialogHandlers() override { Unregister(); }
-
-    using Handler = std::function<void(wxDialog&)>;
-
-    /// The next dialog is shown, and `handler` called when it is there. It has to close it.
-    void Handle(Handler handler) { handlers_.push_back(std::move(handler)); }
-
-    /// How many dialogs have opened.
-    std::size_t Count() const { return count_; }
-
-  protected:
-    int Enter(wxDialog* dialog) override;
-
-  private:
-    std::deque<Handler> handlers_;
-    std::size_t count_ = 0;
-};
 
 /// A test of the real window, driven by clicks and keys, on an application in a temporary folder.
 class GuiTest : public ApplicationTest {
@@ -60,23 +27,32 @@ class GuiTest : public ApplicationTest {
     /// Closes the window as the user does, and waits until it is gone.
     void CloseWindow();
 
-    /// A control by its name, in any open window; fails the test when there is none.
+    /// A control by its name, in any open window or in one; fails the test when there is none.
     template <class Control = wxWindow>
-    Control& Find(const std::string& name) {
-        return dynamic_cast<Control&>(FindAny(name));
+    Control& Find(const std::string& name, const wxWindow* window = nullptr) {
+        return dynamic_cast<Control&>(FindAny(name, window));
     }
-    wxWindow& Item(std::size_t index) { return Find("cmdbuttons(" + std::to_string(index) + ")"); }
+    gui::CommandItemControl& Item(std::size_t index) {
+        return Find<gui::CommandItemControl>("cmdbuttons(" + std::to_string(index) + ")");
+    }
+    gui::Form1Window& Window() { return *window_; }
+    bool IsWindowOpen() const { return window_ != nullptr; }
+    Form1& Logic() { return window_->Logic(); }
+    std::string StatusText(const std::string& box);
 
     /// Moves the mouse to the middle of a control, or to a point in it, and clicks.
     void Click(wxWindow& control);
-    void ClickAt(wxWindow& control, const wxPoint& point);
+    void ClickAt(wxWindow& control, const wxPoint& point, int button = wxMOUSE_BTN_LEFT);
     void DoubleClickAt(wxWindow& control, const wxPoint& point);
     void MoveTo(wxWindow& control);
     void MoveTo(wxWindow& control, const wxPoint& point);
     /// Presses a key. @param modifiers of wxMOD_….
     void Press(int key, int modifiers = wxMOD_NONE);
     void Type(const std::string& text);
-    /// Types a path into the desktop's own picker, which is shown, and presses Enter.
+    /// Puts a text into the field that has the focus, faster than by typing.
+    void Paste(const std::string& text);
+
+    /// Chooses a path in the desktop's own picker, which is shown.
     void ChooseInPicker(const wxDialog& picker, const std::string& path);
 
     /// Makes the result files of one project and two plug-ins, one of which is installed.
@@ -85,7 +61,6 @@ class GuiTest : public ApplicationTest {
     std::string AddProject(const std::string& name, const std::string& plugin = "Reverb") const;
 
     gui::LedgerList& List() { return Find<gui::LedgerList>("lstSongs"); }
-    Form1& Logic() { return window_->Logic(); }
 
     /// The point in the list's rows where a row, counted from 0, can be clicked, and the window
     /// that the rows are in.
@@ -95,7 +70,7 @@ class GuiTest : public ApplicationTest {
     DialogHandlers dialogs;
 
   private:
-    wxWindow& FindAny(const std::string& name);
+    static wxWindow& FindAny(const std::string& name, const wxWindow* window);
 
     wxUIActionSimulator mouse_;
     gui::Form1Window* window_ = nullptr;  ///< owned by the toolkit

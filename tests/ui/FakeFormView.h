@@ -41,6 +41,11 @@ class FakeFormView final : public FormView {
         FailIf("Show");
         state = newState;
     }
+    void ShowText1(const std::string& text) override {
+        FailIf("ShowText1");
+        text1 = text;
+    }
+    void ShowText2(const std::string& text) override { text2 = text; }
     void ShowList() override { events.emplace_back("ShowList"); }
     NaturalSizes Sizes() const override { return sizes; }
     TwipSize ClientArea() const override { return client; }
@@ -94,6 +99,8 @@ class FakeFormView final : public FormView {
     void Close() override { events.emplace_back("Close"); }
 
     FormState state;
+    std::string text1;
+    std::string text2;
     FormLayout layout;
     NaturalSizes sizes;
     TwipSize client = kDefaultClientSize;

@@ -191,8 +191,9 @@ TEST_F(Form1ButtonsTest, DuringARunCancelIsTheOnlyOneThatCanBeUsed) {
 }
 
 TEST_F(Form1ButtonsTest, FailuresAreLoggedUnderTheRoutinesNamesAndNotTold) {
-    view.failing = "Show";
+    view.failing = "ShowText1";
     form.ClearStatusBar();
+    view.failing = "Show";
     form.DisableButtons();
     form.EnableButtons();
     EXPECT_EQ(Log(), LogLine("ClearStatusBar", 5, "Invalid procedure call") +
@@ -204,9 +205,9 @@ TEST_F(Form1ButtonsTest, FailuresAreLoggedUnderTheRoutinesNamesAndNotTold) {
 TEST_F(Form1ButtonsTest, ClearStatusBarEmptiesBothBoxes) {
     form.SetText1("(1)");
     form.SetText2("a");
-    EXPECT_EQ(view.state.Text1 + view.state.Text2, "(1)a");
+    EXPECT_EQ(view.text1 + view.text2, "(1)a");
     form.ClearStatusBar();
-    EXPECT_EQ(view.state.Text1 + view.state.Text2, "");
+    EXPECT_EQ(view.text1 + view.text2, "");
 }
 
 using Form1ClickTest = Form1Test;
@@ -234,7 +235,7 @@ TEST_F(Form1ClickTest, SearchSXProjectsSearchesAndUnlocksTheReports) {
     EXPECT_EQ(MessageTexts(), test::Texts{"Include Subfolders in the search?"});
     EXPECT_EQ(during, std::set<std::size_t>{12});
     EXPECT_EQ(Enabled(), allButCancel);
-    EXPECT_EQ(view.state.Text1 + view.state.Text2, "");
+    EXPECT_EQ(view.text1 + view.text2, "");
     EXPECT_NE(folder.Read("resultfiles/tln.csv").find("Reverb"), std::string::npos);
 }
 
@@ -249,7 +250,7 @@ TEST_F(Form1ClickTest, CancelEndsASearchBetweenTwoProjects) {
     view.folders.answer = folder.Path("songs");
     view.answer = MessageAnswer::Yes;
     view.onEvents = [&] {
-        if (view.state.Text1.starts_with("(2)"))
+        if (view.text1.starts_with("(2)"))
             form.cmdButtons_Click(12);
     };
     form.cmdButtons_Click(0);
@@ -609,7 +610,7 @@ TEST_F(Form1CloseTest, AWindowClosedDuringASearchCancelsItSilentlyAndThenCloses)
     view.folders.answer = folder.Path("songs");
     view.answer = MessageAnswer::Yes;
     view.onEvents = [&] {
-        if (view.state.Text1.starts_with("(2)")) {
+        if (view.text1.starts_with("(2)")) {
             EXPECT_FALSE(form.Form_QueryUnload());
         }
     };

@@ -1,0 +1,73 @@
+// What the window's program does without a window.
+
+#include <cstdlib>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "tests/cli/CliTest.h"
+
+namespace marlo {
+namespace {
+
+class WindowUsageTest : public test::CliTest {
+  protected:
+    WindowUsageTest() {
+        unsetenv("DISPLAY");
+        unsetenv("WAYLAND_DISPLAY");
+    }
+
+    static test::ProgramResult Window(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), MARLO_WINDOW);
+        return test::Run(arguments);
+    }
+};
+
+TEST_F(WindowUsageTest, HelpAndVersionNeedNoDisplay) {
+    const auto help = Window({"--help"});
+    EXPECT_EQ(help.exitCode, 0);
+    for (const std::string option : {"--app-folder DIR", "--wine-prefix DIR", "--version"})
+        EXPECT_NE(help.out.find(option), std::string::npos) << help.out;
+    const auto version = Window({"--version"});
+    EXPECT_EQ(version.exitCode, 0);
+    EXPECT_EQ(version.out, "marlo " MARLO_VERSION "\n");
+}
+
+TEST_F(WindowUsageTest, WrongUsageExitsWith2) {
+    for (const std::string argument : {"--nonsense", "a", "--app-folder"}) {
+        const auto result = Window({argument});
+        EXPECT_EQ(result.exitCode, 2) << argument;
+        EXPECT_NE(result.error, "") << argument;
+    }
+}
+
+TEST_F(WindowUsageTest, AMissingApplicationFolderIsSaid) {
+    const auto result = Window({"--app-folder", folder.Path("gone")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.error,
+              "marlo: the application folder " + folder.Path("gone") + " does not exist\n");
+}
+
+TEST_F(WindowUsageTest, AMissingWinePrefixIsSaid) {
+    const auto result =
+        Window({"--app-folder", folder.Path("app"), "--wine-prefix", folder.Path("gone")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.error.find("marlo: " + folder.Path("gone") + ": no Wine prefix"), 0U)
+        << result.error;
+}
+
+TEST_F(WindowUsageTest, AMissingDisplayIsSaid) {
+    const auto result = Window({"--app-folder", folder.Path("app")});
+    EXPECT_NE(result.exitCode, 0);
+    EXPECT_NE(result.error, "");
+}
+
+TEST_F(WindowUsageTest, TheManualPageTellsOfEveryOption) {
+    const std::string manual = folder.Read(MARLO_SOURCE "/docs/man/marlo.1");
+    for (const std::string word :
+         {"\\-\\-app\\-folder", "\\-\\-wine\\-prefix", "\\-\\-help", "\\-\\-version"})
+        EXPECT_NE(manual.find(word), std::string::npos) << word;
+}
+
+}  // namespace
+}  // namespace marlo

@@ -1,0 +1,68 @@
+#include "tests/gui/Display.h"
+
+#include <algorithm>
+#include <gtk/gtk.h>
+#include <memory>
+#include <stdexcept>
+
+namespace marlo::test {
+
+namespace {
+
+GtkWindow* WindowOf(const wxWindow& window) {
+    return GTK_WINDOW(window.GetHandle());
+}
+
+}  // namespace
+
+void FetchEvents() {
+    gdk_display_sync(gdk_display_get_default());
+}
+
+bool HasKeyboard() {
+    GList* const windows = gtk_window_list_toplevels();
+    bool isActive = false;
+    for (const GList* entry = windows; entry != nullptr; entry = entry->next)
+        isActive = isActive || gtk_window_is_active(GTK_WINDOW(entry->data)) != FALSE;
+    g_list_free(windows);
+    return isActive;
+}
+
+bool HasKeyboard(const wxWindow& window) {
+    return gtk_window_is_active(WindowOf(window)) != FALSE;
+}
+
+std::string TitleOf(const wxWindow& window) {
+    const char* const title = gtk_window_get_title(WindowOf(window));
+    return title == nullptr ? "" : title;
+}
+
+wxImage PictureOf(const wxRect& area) {
+    const std::unique_ptr<GdkPixbuf, decltype(&g_object_unref)> pixels(
+        gdk_pixbuf_get_from_window(gdk_get_default_root_window(), area.x, area.y, area.width,
+                                   area.height),
+        &g_object_unref);
+    if (!pixels)
+        throw std::runtime_error("there is no such part of the screen");
+    const int channels = gdk_pixbuf_get_n_channels(pixels.get());
+    const int stride = gdk_pixbuf_get_rowstride(pixels.get());
+    const unsigned char* const bytes = gdk_pixbuf_read_pixels(pixels.get());
+    wxImage picture(area.GetSize(), false);
+    for (int y = 0; y < area.height; ++y)
+        for (int x = 0; x < area.width; ++x) {
+            const unsigned char* const pixel = bytes + y * stride + x * channels;
+            picture.SetRGB(x, y, pixel[0], pixel[1], pixel[2]);
+        }
+    return picture;
+}
+
+wxImage PictureOf(const wxWindow& control) {
+    return PictureOf(control.GetScreenRect());
+}
+
+wxColour ColourAt(const wxWindow& control, const wxPoint& point) {
+    const wxImage pixel = PictureOf(wxRect(control.ClientToScreen(point), wxSize(1, 1)));
+    return {pixel.GetRed(0, 0), pixel.GetGreen(0, 0), pixel.GetBlue(0, 0)};
+}
+
+}  // namespace marlo::test
