@@ -4,16 +4,17 @@
 PACKAGES := packaging/install-packages
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-.PHONY: help run build test test-sanitizer bench format lint clean
+.PHONY: help run build test test-sanitizer bench package screenshots pictures format lint clean
 
 help: ## List the targets
 	@sed -n 's/^\([a-z-]*\):.*## /  make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
 
-run: ## Build Marlo, search the samples and show the four reports
+run: ## Build Marlo and start it; without a display, show the samples in the terminal
 	@$(PACKAGES) build
 	@cmake --preset normal --log-level=WARNING
-	@cmake --build --preset normal --target marlo-cli marlo-samples
-	@tools/show-samples build/normal
+	@cmake --build --preset normal --target marlo marlo-cli marlo-samples
+	@if [ -n "$${DISPLAY-}$${WAYLAND_DISPLAY-}" ] && build/normal/marlo/marlo; then :; \
+	else tools/show-samples build/normal; fi
 
 build:
 	@$(PACKAGES) build
@@ -34,6 +35,23 @@ bench: ## Measure speed against baselines from the same run
 	@cmake --preset release --log-level=WARNING
 	@cmake --build --preset release
 	build/release/bench/marlo-bench
+	tests/gui/with-display build/release/bench/marlo-bench-window
+
+package: ## Pack the programs for Linux, ready to be unpacked and run
+	@$(PACKAGES) build package
+	@cmake --preset package --log-level=WARNING
+	@cmake --build --preset package
+	@packaging/make-package build/package
+
+screenshots: ## Save pictures of every window and dialog in build/normal/screenshots
+	@$(PACKAGES) build pictures
+	@cmake --preset normal --log-level=WARNING
+	@cmake --build --preset normal --target marlo marlo-cli marlo-samples marlo-screenshots
+	@tools/make-screenshots build/normal
+
+pictures: ## Make the program's pictures from their sources
+	@$(PACKAGES) pictures
+	@assets/make-pictures
 
 format: ## Put all sources into the project's format
 	@$(PACKAGES) lint
