@@ -96,13 +96,14 @@ const std::vector<std::string>& RealisticLibrary() {
     return paths;
 }
 
-std::vector<std::string> SmallProjects(std::size_t count) {
+std::vector<std::string> SmallProjects(std::size_t count, const std::string& folder) {
     std::string bytes(100, '\0');
     for (int i = 0; i < 20; ++i)
         bytes += tools::PluginBytes({.name = "Plug-in " + std::to_string(i), .chunkSize = 64});
     std::vector<std::string> paths;
     for (std::size_t i = 0; i < count; ++i)
-        paths.push_back(WriteOnce("small/" + std::to_string(i) + ".cpr", [&] { return bytes; }));
+        paths.push_back(
+            WriteOnce(folder + "/" + std::to_string(i) + ".cpr", [&] { return bytes; }));
     return paths;
 }
 

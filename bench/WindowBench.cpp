@@ -1,0 +1,116 @@
+// What the window costs: a run in it against the same run without, and its start against that of an
+// empty one.
+
+#include <filesystem>
+#include <string>
+#include <wx/app.h>
+#include <wx/evtloop.h>
+#include <wx/image.h>
+
+#include <benchmark/benchmark.h>
+
+#include "app/gui/Form1Window.h"
+#include "bench/Baselines.h"
+#include "bench/Data.h"
+#include "bench/QuietWindow.h"
+#include "bench/Report.h"
+#include "scan/SearchRun.h"
+
+namespace marlo::bench {
+namespace {
+
+using benchmark::State;
+
+constexpr std::size_t kProjectCount = 2000;
+constexpr const char* kProjectFolder = "small-2000";
+
+/// Answers the questions of a run, and hands everything else to a window.
+template <class Window>
+class Answering final : public MainWindow {
+  public:
+    explicit Answering(Window& window) : window_(window) {}
+
+    void SetText1(const std::string& text) override { window_.SetText1(text); }
+    void SetText2(const std::string& text) override { window_.SetText2(text); }
+    void ClearStatusBar() override { window_.ClearStatusBar(); }
+    void Repaint() override { window_.Repaint(); }
+    void LetEventsRun() override { window_.LetEventsRun(); }
+    void SetHourglass(bool isShown) override { window_.SetHourglass(isShown); }
+    void AutoSizeListViewColumns() override { window_.AutoSizeListViewColumns(); }
+    void SetListViewLedger(std::int32_t bar1, std::int32_t bar2, std::int32_t kind) override {
+        window_.SetListViewLedger(bar1, bar2, kind);
+    }
+    std::string CancelTag() const override { return window_.CancelTag(); }
+    void SetCancelTag(const std::string& tag) override { window_.SetCancelTag(tag); }
+    void DisableButtons() override { window_.DisableButtons(); }
+    void EnableButtons() override { window_.EnableButtons(); }
+    MessageAnswer ShowMessage(const Message& /*message*/) override { return MessageAnswer::Yes; }
+    std::string PickFolder(const std::string& /*prompt*/,
+                           const std::string& /*startFolder*/) override {
+        return DataFolder() + "/" + kProjectFolder;
+    }
+
+  private:
+    Window& window_;
+};
+
+Application SearchApplication() {
+    SmallProjects(kProjectCount, kProjectFolder);
+    const std::string folder = DataFolder() + "/window";
+    std::filesystem::create_directories(folder + "/resultfiles");
+    Application application = BenchApplication();
+    return {folder, application.clock, application.desktop, application.registry, {}};
+}
+
+template <class Window>
+void Search(State& state, const Application& application, Window& window) {
+    Answering<Window> answering(window);
+    for (auto iteration : state) {
+        SearchLists lists;
+        const SearchSummary summary = GetPlugins4AllProjects(application, answering, lists);
+        if (summary.projects != kProjectCount)
+            state.SkipWithError("not every project was searched");
+    }
+}
+
+void SearchWithoutWindow(State& state) {
+    const Application application = SearchApplication();
+    QuietWindow window;
+    Search(state, application, window);
+}
+
+void SearchInWindow(State& state) {
+    const Application application = SearchApplication();
+    auto* const window = new gui::Form1Window(application, "");
+    window->wxFrame::Show();
+    for (int i = 0; i < 100; ++i) {  // until it stands there
+        wxEventLoopBase::GetActive()->YieldFor(wxEVT_CATEGORY_ALL);
+        wxMilliSleep(10);
+    }
+    Search(state, application, window->Logic());
+    window->Destroy();
+    wxTheApp->ProcessPendingEvents();
+    wxTheApp->ProcessIdle();
+}
+
+const bool registered = [] {
+    Register("search-without-window", SearchWithoutWindow);
+    Register("search-in-window", SearchInWindow);
+    Compare({.what = "search of 2,000 small projects in the window, against one without",
+             .numerator = "search-in-window",
+             .denominator = "search-without-window",
+             .atMost = 1.1});
+
+    for (const std::string kind : {"empty", "marlo"})
+        Register("start-" + kind, [kind](State& state) {
+            RunProgram(state, {MARLO_START_PROBE, kind, SearchApplication().folder});
+        });
+    Compare({.what = "start to the painted window, against an empty window of the toolkit",
+             .numerator = "start-marlo",
+             .denominator = "start-empty",
+             .atMost = 1.3});
+    return true;
+}();
+
+}  // namespace
+}  // namespace marlo::bench

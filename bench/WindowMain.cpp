@@ -1,0 +1,32 @@
+#include <wx/evtloop.h>
+
+#include "app/gui/GuiApp.h"
+#include "bench/Report.h"
+
+namespace {
+
+/// Runs the benchmarks in place of an event loop.
+class BenchApp final : public marlo::gui::GuiApp {
+  public:
+    bool OnInit() override {
+        GuiApp::OnInit();
+        return true;
+    }
+    int OnRun() override {
+        wxGUIEventLoop loop;
+        const wxEventLoopActivator active(&loop);
+        marlo::bench::Report report;
+        benchmark::RunSpecifiedBenchmarks(&report);
+        return report.PrintComparisons() ? 0 : 1;
+    }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    wxApp::SetInstance(new BenchApp);
+    return wxEntry(argc, argv);
+}
