@@ -232,18 +232,37 @@ void Form1Window::BindListEvents() {
     });
     const auto onSelection = [this](wxListEvent& event) {
         event.Skip();
-        const std::size_t active = lstSongs_->ActivePosition();
-        if (active == 0 || active > form_.lstSongs().RowCount())
-            form_.lstSongs().SelectNone();
-        else
-            form_.lstSongs().Select(active);
+        SelectActiveRow();
     };
     lstSongs_->Bind(wxEVT_LIST_ITEM_SELECTED, onSelection);
     lstSongs_->Bind(wxEVT_LIST_ITEM_DESELECTED, onSelection);
     lstSongs_->Bind(wxEVT_LIST_ITEM_FOCUSED, onSelection);
-    lstSongs_->OnDoubleClick([this] { form_.lstSongs_DblClick(); });
-    lstSongs_->Bind(wxEVT_CONTEXT_MENU,
-                    [this](wxContextMenuEvent&) { ShowResultListMenu(*lstSongs_, form_); });
+    lstSongs_->OnDoubleClick([this] { OpenActiveRow(); });
+    lstSongs_->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent&) {
+        // A list without a current row asks twice, and selects the row in between.
+        if (!std::exchange(isMenuDue_, true))
+            CallAfter(&Form1Window::ShowListMenu);
+    });
+}
+
+void Form1Window::ShowListMenu() {
+    isMenuDue_ = false;
+    SelectActiveRow();
+    ShowResultListMenu(*lstSongs_, form_);
+}
+
+void Form1Window::SelectActiveRow() {
+    const std::size_t active = lstSongs_->ActivePosition();
+    if (active == 0 || active > form_.lstSongs().RowCount())
+        form_.lstSongs().SelectNone();
+    else
+        form_.lstSongs().Select(active);
+}
+
+/// Not every selection is told, such as that of a range.
+void Form1Window::OpenActiveRow() {
+    SelectActiveRow();
+    form_.lstSongs_DblClick();
 }
 
 void Form1Window::OnClose(wxCloseEvent& event) {
@@ -265,7 +284,7 @@ void Form1Window::OnKey(wxKeyEvent& event) {
     else if (isInList && event.GetModifiers() == wxMOD_CONTROL && event.GetKeyCode() == 'C')
         CopySelectedRows(*lstSongs_, form_.lstSongs());
     else if (isInList && event.GetKeyCode() == WXK_RETURN)
-        form_.lstSongs_DblClick();
+        OpenActiveRow();
     else
         event.Skip();
 }

@@ -76,6 +76,9 @@ class Form1Window final : public wxFrame, private FormView {
     void ApplyTheme();
     void BindEvents();
     void BindListEvents();
+    void ShowListMenu();
+    void SelectActiveRow();
+    void OpenActiveRow();
     void OnClose(wxCloseEvent& event);
     void OnKey(wxKeyEvent& event);
     void FollowFocus(const FormState& state);
@@ -91,6 +94,7 @@ class Form1Window final : public wxFrame, private FormView {
     Pace pace_;
     std::string paintedPhase_;
     wxWindow* focusAfterRun_ = nullptr;
+    bool isMenuDue_ = false;
 
     wxPanel* background_ = nullptr;
     wxPanel* boxMenu_ = nullptr;

@@ -165,7 +165,7 @@ std::size_t LedgerList::ActivePosition() const {
 }
 
 void LedgerList::OnDoubleClick(const std::function<void()>& handler) {
-    // Some systems' list has its rows in a window of their own.
+    // Some systems' list has its rows in a window of their own, and its headers in another.
     const auto bind = [&](wxWindow* window) {
         window->Bind(wxEVT_LEFT_DCLICK, [handler](wxMouseEvent& event) {
             event.Skip();
@@ -176,7 +176,7 @@ void LedgerList::OnDoubleClick(const std::function<void()>& handler) {
     if (parts.empty())
         bind(this);
     else
-        bind(parts.GetLast()->GetData());
+        bind(parts.GetFirst()->GetData());
 }
 
 wxString LedgerList::OnGetItemText(long item, long column) const {

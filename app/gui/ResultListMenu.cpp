@@ -42,7 +42,7 @@ void ShowResultListMenu(LedgerList& list, Form1& form) {
     wxMenuItem* const open = menu.Append(wxID_OPEN, "Open");
     wxMenuItem* const copy = menu.Append(wxID_COPY, "Copy\tCtrl+C");
     menu.AppendSeparator();
-    wxMenuItem* const save = menu.Append(wxID_SAVEAS, "Save list as\u2026");
+    wxMenuItem* const save = menu.Append(wxID_SAVEAS, wxString::FromUTF8("Save list as\u2026"));
     open->Enable(hasSelection);
     copy->Enable(hasSelection);
     save->Enable(form.lstSongs().ColumnCount() > 0);
