@@ -59,8 +59,11 @@ void Form1::Form_Load() {
         ClearStatusBar();
         LoadSearchControls();
         FillInCsvProgram(application_);
-        LoadCsvAppIcons(application_, getSetting(application_, setting::kCsvProgram),
-                        view_.CsvIcon(0), view_.CsvIcon(1));
+        // Desktops look an icon up among all of their programs, and nothing has to wait for it.
+        view_.Later([this] {
+            LoadCsvAppIcons(application_, getSetting(application_, setting::kCsvProgram),
+                            view_.CsvIcon(0), view_.CsvIcon(1));
+        });
         FillInVstFolder(application_);
         donateCountdown_ = kDonateSeconds;
         view_.StartTimer(kTimerInterval);

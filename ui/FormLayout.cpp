@@ -68,7 +68,7 @@ std::int32_t MenuGrowth(const FormLayout& layout) {
 }
 
 void PlaceCsvIcons(FormLayout& layout) {
-    auto icon = layout.csvIcons.begin();
+    auto* icon = layout.csvIcons.begin();
     for (std::size_t i = 0; i < kCommandItemCount; ++i) {
         if (kCommandItems[i].command != Command::OpenResults)
             continue;

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -59,6 +60,9 @@ class FormView {
     /// @param interval in milliseconds.
     virtual void StartTimer(int interval) = 0;
     virtual void StopTimer() = 0;
+
+    /// Calls `action` soon, when the window has been painted.
+    virtual void Later(const std::function<void()>& action) = 0;
 
     /// Takes the window's icons from a file; none when there is no such file.
     virtual void SetProgramIcon(const std::string& path) = 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <utility>
 #include <wx/app.h>
 #include <wx/checkbox.h>
@@ -32,7 +33,11 @@ const wxSize kMenuPaneDrawn(176, 430);
 const wxSize kRightPaneDrawn(800, 600);
 
 constexpr double kSmallestItemFont = 0.8;  // of the desktop's usual one
-constexpr int kIconDelay = 50;             // milliseconds
+constexpr int kLater = 50;                 // milliseconds
+
+// The sizes of a window's icons, in pixels of the toolkit.
+constexpr int kLargeIcon = 32;
+constexpr int kSmallIcon = 16;
 
 /// A window that shows a picture on a panel's picture.
 template <class PictureOf>
@@ -76,7 +81,7 @@ Form1Window::Form1Window(const Application& application, const std::string& help
       application_(application),
       scale_(*this),
       timer1_(this, wxWindow::NewControlId()),
-      iconTimer_(this, wxWindow::NewControlId()),
+      laterTimer_(this, wxWindow::NewControlId()),
       folders_(this),
       csvIcons_{IconBox(*this), IconBox(*this)},
       form_(application, *this, helpSite) {
@@ -133,19 +138,11 @@ void Form1Window::CreateCommandItems() {
         if (item.command != Command::OpenResults)
             continue;
         IconBox& box = csvIcons_.at(icon);
-        wxWindow* const view = CreatePictureView(
-            panel, wxString::Format("Picture%zu", icon + 2),
-            [&box](wxWindow* /*view*/) { return box.IsLoaded() ? box.Picture() : wxBitmap(); });
-        box.onChange = [this] { iconTimer_.StartOnce(kIconDelay); };
+        wxWindow* const view =
+            CreatePictureView(panel, wxString::Format("Picture%zu", icon + 2),
+                              [&box](wxWindow* /*view*/) { return box.Picture(); });
+        box.onChange = [view] { view->Refresh(); };
         csvIconViews_.at(icon++) = view;
-    }
-}
-
-/// Looking a program's icon up takes long, and nothing has to wait for it.
-void Form1Window::LoadCsvIcons() {
-    for (std::size_t i = 0; i < csvIcons_.size(); ++i) {
-        csvIcons_.at(i).Picture();
-        csvIconViews_.at(i)->Refresh();
     }
 }
 
@@ -201,7 +198,8 @@ void Form1Window::BindEvents() {
     Bind(
         wxEVT_TIMER, [this](wxTimerEvent&) { form_.Timer1_Timer(); }, timer1_.GetId());
     Bind(
-        wxEVT_TIMER, [this](wxTimerEvent&) { LoadCsvIcons(); }, iconTimer_.GetId());
+        wxEVT_TIMER, [this](wxTimerEvent&) { std::exchange(later_, nullptr)(); },
+        laterTimer_.GetId());
     Bind(wxEVT_CLOSE_WINDOW, &Form1Window::OnClose, this);
     Bind(wxEVT_CHAR_HOOK, &Form1Window::OnKey, this);
     Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
@@ -421,8 +419,21 @@ std::string Form1Window::SearchText() const {
 
 void Form1Window::SetProgramIcon(const std::string& path) {
     std::error_code error;
-    if (platform::IsFile(path, error))
-        SetIcons(wxIconBundle(ToolkitPath(path), wxBITMAP_TYPE_ICO));
+    if (!platform::IsFile(path, error))
+        return;
+    // Only the two sizes that are asked for: all of them are more than a window manager likes.
+    const wxIconBundle file(ToolkitPath(path), wxBITMAP_TYPE_ICO);
+    wxIconBundle icons;
+    for (const int size : {kLargeIcon, kSmallIcon}) {
+        const int dots = static_cast<int>(std::lround(size * GetContentScaleFactor()));
+        icons.AddIcon(file.GetIcon(wxSize(dots, dots), wxIconBundle::FALLBACK_NEAREST_LARGER));
+    }
+    SetIcons(icons);
+}
+
+void Form1Window::Later(const std::function<void()>& action) {
+    later_ = action;
+    laterTimer_.StartOnce(kLater);
 }
 
 void Form1Window::Repaint() {

@@ -51,6 +51,7 @@ class Form1Window final : public wxFrame, private FormView {
     std::string SearchText() const override;
     void StartTimer(int interval) override { timer1_.Start(interval); }
     void StopTimer() override { timer1_.Stop(); }
+    void Later(const std::function<void()>& action) override;
     void SetProgramIcon(const std::string& path) override;
     PictureBox& CsvIcon(std::size_t index) override { return csvIcons_.at(index); }
     void Repaint() override;
@@ -70,7 +71,6 @@ class Form1Window final : public wxFrame, private FormView {
 
     void CreateControls();
     void CreateCommandItems();
-    void LoadCsvIcons();
     void CreateSearchControls();
     wxFont ItemFont() const;
     void ApplyTheme();
@@ -88,7 +88,8 @@ class Form1Window final : public wxFrame, private FormView {
     const Application& application_;
     TwipScale scale_;
     wxTimer timer1_;
-    wxTimer iconTimer_;
+    wxTimer laterTimer_;
+    std::function<void()> later_;
     FolderPicker folders_;
     std::array<IconBox, 2> csvIcons_;
     Pace pace_;

@@ -18,20 +18,15 @@ class IconBox final : public PictureBox {
     void Clear() override;
     void Draw(const platform::ShellIcon& icon) override;
 
-    /// Invalid while the box is empty. Looked up when it is first asked for.
-    const wxBitmap& Picture();
-    bool IsLoaded() const { return isLoaded_; }
+    /// Invalid while the box is empty.
+    const wxBitmap& Picture() const { return picture_; }
 
     /// Called when the picture has changed, if set.
     std::function<void()> onChange;
 
   private:
-    void Change(const std::string& name);
-
     const wxWindow& window_;
-    std::string name_;  ///< of the icon; empty while the box is
     wxBitmap picture_;
-    bool isLoaded_ = true;
 };
 
 }  // namespace marlo::gui

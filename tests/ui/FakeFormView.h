@@ -66,6 +66,7 @@ class FakeFormView final : public FormView {
     std::string SearchText() const override { return searchText; }
     void StartTimer(int interval) override { timerInterval = interval; }
     void StopTimer() override { timerInterval = 0; }
+    void Later(const std::function<void()>& action) override { action(); }
     void SetProgramIcon(const std::string& path) override { programIcon = path; }
     PictureBox& CsvIcon(std::size_t index) override { return csvIcons.at(index); }
     void Repaint() override { events.emplace_back("Repaint"); }
