@@ -47,6 +47,8 @@ class DialogVisitor final : public wxModalDialogHook {
     DialogVisitor() { Register(); }
     DialogVisitor(const DialogVisitor&) = delete;
     DialogVisitor& operator=(const DialogVisitor&) = delete;
+    DialogVisitor(DialogVisitor&&) = delete;
+    DialogVisitor& operator=(DialogVisitor&&) = delete;
     ~DialogVisitor() override { Unregister(); }
 
     std::function<void(wxDialog&)> visit;
@@ -81,7 +83,8 @@ class Photographer {
         const double scale = window.GetContentScaleFactor();
         const auto dots = [scale](int length) { return static_cast<int>(length * scale); };
         const wxRect place = window.GetScreenRect();
-        wxImage screen(path);
+        wxImage screen;
+        screen.LoadFile(path);
         const wxRect area =
             wxRect(dots(place.x), dots(place.y), dots(place.width), dots(place.height))
                 .Intersect(wxRect(screen.GetSize()));
@@ -107,6 +110,8 @@ class Session {
     }
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
+    Session(Session&&) = delete;
+    Session& operator=(Session&&) = delete;
     ~Session() {
         window_->Destroy();
         RunEvents();

@@ -309,7 +309,7 @@ void Form1Window::FollowFocus(const FormState& state) {
         return;
     wxWindow* const focused = FindFocus();
     if (isRunning) {
-        const auto found = std::find(cmdbuttons_.begin(), cmdbuttons_.end(), focused);
+        const auto* const found = std::find(cmdbuttons_.begin(), cmdbuttons_.end(), focused);
         if (found == cmdbuttons_.end())
             return;
         focusAfterRun_ = *found;

@@ -49,8 +49,8 @@ wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSi
     const wxSize dots = Dots(window, size);
     if (IsDrawing(path))
         return Sharp(window, wxBitmapBundle::FromSVGFile(ToolkitPath(path), dots).GetBitmap(dots));
-    wxImage image(ToolkitPath(path));
-    if (!image.IsOk())
+    wxImage image;
+    if (!image.LoadFile(ToolkitPath(path)))
         return {};
     if (!image.HasAlpha())
         image.InitAlpha();  // else the mask's colour bleeds into the edges

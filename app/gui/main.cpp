@@ -1,3 +1,4 @@
+#include <exception>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -20,10 +21,11 @@ struct Options {
     std::string winePrefix;  ///< empty for the user's own
 };
 
-/// Where the help and donation pages are: beside the program, unless it was built for a web site.
+/// Where the help and donation pages are: on a web site, or in a folder beside the program.
 std::string HelpSite() {
-    const std::string site = MARLO_HELP_SITE;
-    return site.empty() ? platform::JoinPath(platform::ProgramFolder(), "site") : site;
+    std::string site = MARLO_HELP_SITE;
+    const bool isAddress = site.find("://") != std::string::npos;
+    return isAddress ? site : platform::JoinPath(platform::ProgramFolder(), site);
 }
 
 class MarloApp final : public GuiApp {
@@ -68,12 +70,9 @@ int Run(const Options& options, char* programName) {
     return wxEntry(count, &programName);
 }
 
-}  // namespace
-
-}  // namespace marlo::gui
-
-int main(int argc, char** argv) {
-    marlo::gui::Options options;
+/// Reads the command line, and runs what it asks for.
+int RunCommandLine(int argc, char** argv) {
+    Options options;
     CLI::App commandLine(
         "Which plug-ins do your Cubase SX projects use, and which are installed "
         "here?",
@@ -96,5 +95,18 @@ int main(int argc, char** argv) {
         constexpr int wrongUsage = 2;
         return commandLine.exit(ending) == 0 ? 0 : wrongUsage;
     }
-    return marlo::gui::Run(options, argv[0]);
+    return Run(options, argv[0]);
+}
+
+}  // namespace
+
+}  // namespace marlo::gui
+
+int main(int argc, char** argv) {
+    try {
+        return marlo::gui::RunCommandLine(argc, argv);
+    } catch (const std::exception& failure) {
+        std::cerr << "marlo: " << failure.what() << '\n';
+        return 1;
+    }
 }
