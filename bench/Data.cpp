@@ -96,15 +96,35 @@ const std::vector<std::string>& RealisticLibrary() {
     return paths;
 }
 
-std::vector<std::string> SmallProjects(std::size_t count, const std::string& folder) {
+namespace {
+
+std::string ProjectOf20Plugins(std::size_t chunkSize) {
     std::string bytes(100, '\0');
     for (int i = 0; i < 20; ++i)
-        bytes += tools::PluginBytes({.name = "Plug-in " + std::to_string(i), .chunkSize = 64});
+        bytes +=
+            tools::PluginBytes({.name = "Plug-in " + std::to_string(i), .chunkSize = chunkSize});
+    return bytes;
+}
+
+std::vector<std::string> WriteProjects(const std::string& folder, std::size_t count,
+                                       const std::string& bytes) {
     std::vector<std::string> paths;
     for (std::size_t i = 0; i < count; ++i)
         paths.push_back(
             WriteOnce(folder + "/" + std::to_string(i) + ".cpr", [&] { return bytes; }));
     return paths;
+}
+
+}  // namespace
+
+std::vector<std::string> SmallProjects(std::size_t count) {
+    return WriteProjects("small", count, ProjectOf20Plugins(64));
+}
+
+std::string ProjectFolder(std::size_t count) {
+    const std::string folder = "projects-" + std::to_string(count);
+    WriteProjects(folder, count, ProjectOf20Plugins(4000));
+    return DataFolder() + "/" + folder;
 }
 
 std::string HostileFile(const std::string& name, std::string (*make)(std::size_t size),

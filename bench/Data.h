@@ -20,8 +20,11 @@ Application BenchApplication();
 const std::vector<std::string>& RealisticLibrary();
 
 /// `count` projects of 4 KiB that all use the same 20 plug-ins. @return their paths.
-/// @param folder the one that they are in, by its name; others may be there.
-std::vector<std::string> SmallProjects(std::size_t count, const std::string& folder = "small");
+std::vector<std::string> SmallProjects(std::size_t count);
+
+/// A folder of `count` projects of 80 KiB, the smallest in a real archive, that all use the same 20
+/// plug-ins. @return its path.
+std::string ProjectFolder(std::size_t count);
 
 /// A file whose bytes are made by `make` if it is not there yet. @return its path.
 std::string HostileFile(const std::string& name, std::string (*make)(std::size_t size),

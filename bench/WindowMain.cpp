@@ -8,10 +8,6 @@ namespace {
 /// Runs the benchmarks in place of an event loop.
 class BenchApp final : public marlo::gui::GuiApp {
   public:
-    bool OnInit() override {
-        GuiApp::OnInit();
-        return true;
-    }
     int OnRun() override {
         wxGUIEventLoop loop;
         const wxEventLoopActivator active(&loop);

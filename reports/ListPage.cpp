@@ -142,13 +142,13 @@ void WriteHead(std::ostream& page, const ResultList& list, const std::string& ti
     page << "</style>\n</head>\n";
 }
 
-void WriteHeaders(std::ostream& page, const ResultList& list) {
+void WriteHeaders(std::ostream& page, const ResultList& list, int sortedColumn) {
     const std::string order =
         list.Order() == SortOrder::Ascending ? "\"ascending\"" : "\"descending\"";
     page << "<thead><tr>";
     for (int column = 1; column <= list.ColumnCount(); ++column) {
         page << "<th scope=\"col\"";
-        if (list.IsSorted() && list.SortKey() == column - 1)
+        if (column == sortedColumn)
             page << " aria-sort=" << order;
         page << "><button type=\"button\">" << Html(list.Header(column)) << "</button></th>";
     }
@@ -185,14 +185,15 @@ std::string ListAsCsv(const ResultList& list) {
     return csv;
 }
 
-std::string ListAsHtml(const ResultList& list, const std::string& title, const std::tm& moment) {
+std::string ListAsHtml(const ResultList& list, int sortedColumn, const std::string& title,
+                       const std::tm& moment) {
     std::ostringstream page;
     const std::string escapedTitle = Html(title);
     WriteHead(page, list, escapedTitle);
     page << "<body>\n<h1>" << escapedTitle << "</h1>\n<p>"
          << std::put_time(&moment, "%Y-%m-%d %H:%M") << " &middot; " << Counts(list)
          << "</p>\n<table>\n";
-    WriteHeaders(page, list);
+    WriteHeaders(page, list, sortedColumn);
     WriteRows(page, list);
     page << "</table>\n<script>" << kScript << "</script>\n</body>\n</html>\n";
     return page.str();

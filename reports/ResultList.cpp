@@ -29,14 +29,14 @@ std::int16_t ResultList::AddColumn(const std::string& header) {
     if (headers_.size() == rowWidth_)
         WidenRows(rowWidth_ + 1);
     headers_.push_back(header);
-    ++revision_;
+    Touch();
     return static_cast<std::int16_t>(headers_.size());
 }
 
 void ResultList::RemoveColumn(int column) {
     const std::size_t index = CheckedIndex(static_cast<std::size_t>(column), headers_.size());
     headers_.erase(headers_.begin() + static_cast<std::ptrdiff_t>(index));
-    ++revision_;
+    Touch();
 }
 
 ResultRow ResultList::AddRow(std::string_view key, std::string_view text) {
@@ -57,7 +57,7 @@ std::optional<ResultRow> ResultList::AddRowUnlessThere(std::string_view key,
     const std::string_view ownText = isInKey ? std::string_view() : keys_.Arena().Copy(text);
     if (!keys_.Add(key))
         return std::nullopt;
-    ++revision_;
+    Touch();
     const auto row = static_cast<ResultRow>(count);
     const std::string_view shown = isInKey ? Key(row).substr(0, text.size()) : ownText;
     CellOf(row, 0) = {.start = shown.data(), .size = static_cast<std::uint32_t>(shown.size())};
@@ -71,7 +71,7 @@ void ResultList::ClearRows() {
     rowWidth_ = std::max<std::size_t>(headers_.size(), 1);
     positions_.clear();
     selected_.reset();
-    ++revision_;
+    Touch();
 }
 
 ResultRow ResultList::RowAt(std::size_t position) const {
@@ -87,7 +87,7 @@ void ResultList::SetSubItem(ResultRow row, int subItem, std::string_view text) {
     Cell& cell = CellOf(row, CheckedSubItem(subItem));
     const std::size_t available = std::size_t{cell.size} + cell.spare;
     isOrdered_ = false;
-    ++revision_;
+    Touch();
     // Dates are converted to and fro at each click on their column, which should not take memory.
     if (text.size() > available) {
         cell.start = keys_.Arena().Copy(text).data();
@@ -106,12 +106,18 @@ TextColour ResultList::SubItemColour(ResultRow row, int subItem) const {
 
 void ResultList::SetSubItemColour(ResultRow row, int subItem, TextColour colour) {
     CellOf(row, CheckedSubItem(subItem)).colour = colour;
-    ++revision_;
+    Touch();
 }
 
 void ResultList::SetColour(ResultRow row, TextColour colour) {
     CellOf(row, 0).colour = colour;
-    ++revision_;
+    Touch();
+}
+
+/// No two lists share a revision but that of an untouched one.
+void ResultList::Touch() {
+    static std::size_t last = 0;
+    revision_ = ++last;
 }
 
 /// @return the 0-based column of a sub-item.
@@ -144,7 +150,7 @@ void ResultList::SetSortKey(int column) {
     if (column == sortKey_)
         return;
     sortKey_ = column;
-    ++revision_;
+    Touch();
     isOrdered_ = false;
     isOrderDue_ = isSorted_;
 }
@@ -154,7 +160,7 @@ void ResultList::SetOrder(SortOrder order) {
     if (order == order_)
         return;
     order_ = order;
-    ++revision_;
+    Touch();
     isOrdered_ = false;
     isOrderDue_ = isSorted_;
 }
@@ -164,7 +170,7 @@ void ResultList::SetSorted(bool isSorted) {
     if (isSorted && !isOrdered_)
         PutInOrder();
     isSorted_ = isSorted;
-    ++revision_;
+    Touch();
 }
 
 ResultRow ResultList::SelectedRow() const {
@@ -177,8 +183,8 @@ std::size_t ResultList::SelectedPosition() const {
     if (!selected_)
         return 0;
     Settle();
-    const auto found = std::find(positions_.begin(), positions_.end(),
-                                 static_cast<std::uint32_t>(*selected_));
+    const auto found =
+        std::find(positions_.begin(), positions_.end(), static_cast<std::uint32_t>(*selected_));
     return static_cast<std::size_t>(found - positions_.begin()) + 1;
 }
 

@@ -84,7 +84,8 @@ class ResultList {
     /// Where the selected row stands; 0 when there is none.
     std::size_t SelectedPosition() const;
 
-    /// A number that is another one whenever a header, a text, a colour or the order may be.
+    /// A number that is another one whenever a header, a text, a colour or the order may be, also
+    /// when another list takes this one's place.
     std::size_t Revision() const { return revision_; }
 
   private:
@@ -104,6 +105,7 @@ class ResultList {
     const Cell& CellOf(ResultRow row, std::size_t column) const;
     Cell& CellOf(ResultRow row, std::size_t column);
     void WidenRows(std::size_t width);
+    void Touch();
     void PlaceNewRows() const;
     void Settle() const;
     void PutInOrder() const;

@@ -1,5 +1,7 @@
 #include "reports/ResultPane.h"
 
+#include <algorithm>
+
 #include "core/Settings.h"
 #include "reports/Ledger.h"
 
@@ -8,6 +10,12 @@ namespace marlo {
 IgnoreSettings ReadIgnoreSettings(const Application& application) {
     return {.directX = getSetting(application, setting::kIgnoreDirectX) == "1",
             .off = getSetting(application, setting::kIgnoreOff) == "1"};
+}
+
+int SortedColumn(const ResultPane& pane) {
+    if (pane.lstSongs.IsSorted())
+        return pane.lstSongs.SortKey() + 1;
+    return std::max(pane.lastSortColumn, 0);
 }
 
 void BeginRebuild(ResultPane& pane) {

@@ -29,6 +29,9 @@ struct IgnoreSettings {
 
 IgnoreSettings ReadIgnoreSettings(const Application& application);
 
+/// The column that orders the rows of the list, 1-based; 0 for none.
+int SortedColumn(const ResultPane& pane);
+
 /// Begins to build the list anew: takes its columns and rows away, and hides it.
 void BeginRebuild(ResultPane& pane);
 

@@ -143,7 +143,16 @@ void Form1::RunCommand(const CommandItem& item) {
 template <class Body>
 void Form1::RunLong(Body body) {
     isRunning_ = true;
-    body();
+    try {
+        body();
+    } catch (...) {
+        EndRun();
+        throw;
+    }
+    EndRun();
+}
+
+void Form1::EndRun() {
     isRunning_ = false;
     if (isClosing_)
         view_.Close();
@@ -216,12 +225,6 @@ void Form1::lstSongs_ColumnClick(int column) {
 
 void Form1::lstSongs_DblClick() {
     marlo::lstSongs_DblClick(pane_);
-}
-
-int Form1::SortedColumn() const {
-    if (pane_.lstSongs.IsSorted())
-        return pane_.lstSongs.SortKey() + 1;
-    return std::max(pane_.lastSortColumn, 0);
 }
 
 void Form1::SaveList(const std::string& path) {
@@ -340,7 +343,10 @@ void Form1::EnableButtons() {
 }
 
 MessageAnswer Form1::ShowMessage(const Message& message) {
-    return isClosing_ ? MessageAnswer::Cancel : view_.ShowMessage(message);
+    if (isClosing_)
+        return MessageAnswer::Cancel;
+    view_.ShowList();  // which may be half built
+    return view_.ShowMessage(message);
 }
 
 std::string Form1::PickFolder(const std::string& prompt, const std::string& startFolder) {

@@ -29,7 +29,7 @@ class Form1 final : public MainWindow {
     /// What the result list shows, for a heading: a field.
     const std::string& ListTitle() const { return listTitle_; }
     /// The column that orders the rows of the result list, 1-based; 0 for none.
-    int SortedColumn() const;
+    int SortedColumn() const { return marlo::SortedColumn(pane_); }
 
     /// Saves the result list under its title (see SaveList.h).
     void SaveList(const std::string& path);
@@ -91,6 +91,7 @@ class Form1 final : public MainWindow {
     void RunCommand(const CommandItem& item);
     template <class Body>
     void RunLong(Body body);
+    void EndRun();
     void ShowReport(const char* kind);
     void ShowHelp();
     void ToggleSearchMode();

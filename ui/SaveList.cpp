@@ -40,7 +40,8 @@ void Write(const std::string& text, const std::string& path) {
 
 bool SaveList(const ResultPane& pane, const std::string& title, const std::string& path) {
     const bool isSaved = RunGuarded(pane.application, "SaveList", [&] {
-        Write(IsPage(path) ? ListAsHtml(pane.lstSongs, title, pane.application.clock.Now())
+        Write(IsPage(path) ? ListAsHtml(pane.lstSongs, SortedColumn(pane), title,
+                                        pane.application.clock.Now())
                            : ListAsCsv(pane.lstSongs),
               path);
     });

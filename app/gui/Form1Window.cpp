@@ -10,6 +10,7 @@
 #include <wx/dcbuffer.h>
 #include <wx/evtloop.h>
 #include <wx/iconbndl.h>
+#include <wx/log.h>
 #include <wx/settings.h>
 #include <wx/textctrl.h>
 
@@ -166,11 +167,9 @@ void Form1Window::CreateSearchControls() {
 /// The items' places were drawn for small texts. They are as large as fits in there, but not much
 /// smaller than the user's other texts; where that is too large, the layout makes room.
 wxFont Form1Window::ItemFont() const {
-    // Measuring takes long; the widest is among the longest.
-    constexpr std::size_t nearlyLongest = 22;  // characters
     int widest = 1;
     for (const CommandItem& item : kCommandItems)
-        if (item.pane == Pane::Menu && std::string_view(item.caption).size() >= nearlyLongest)
+        if (item.pane == Pane::Menu)
             widest = std::max(widest, GetTextExtent(item.caption).x);
     const double fitting = static_cast<double>(scale_.Pixels(kCommandItemWidth)) / widest;
     return GetFont().Scaled(static_cast<float>(std::clamp(fitting, kSmallestItemFont, 1.0)));
@@ -200,6 +199,10 @@ void Form1Window::BindEvents() {
     Bind(
         wxEVT_TIMER, [this](wxTimerEvent&) { std::exchange(later_, nullptr)(); },
         laterTimer_.GetId());
+    Bind(wxEVT_ICONIZE, [this](wxIconizeEvent& event) {
+        event.Skip();
+        form_.Form_Resize();  // which leaves a minimised window alone
+    });
     Bind(wxEVT_CLOSE_WINDOW, &Form1Window::OnClose, this);
     Bind(wxEVT_CHAR_HOOK, &Form1Window::OnKey, this);
     Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
@@ -225,16 +228,11 @@ void Form1Window::BindEvents() {
 
 void Form1Window::BindListEvents() {
     lstSongs_->Bind(wxEVT_LIST_COL_CLICK, [this](wxListEvent& event) {
-        if (event.GetColumn() >= 0)
-            form_.lstSongs_ColumnClick(event.GetColumn() + 1);
-    });
-    const auto onSelection = [this](wxListEvent& event) {
-        event.Skip();
+        if (event.GetColumn() < 0)
+            return;
         SelectActiveRow();
-    };
-    lstSongs_->Bind(wxEVT_LIST_ITEM_SELECTED, onSelection);
-    lstSongs_->Bind(wxEVT_LIST_ITEM_DESELECTED, onSelection);
-    lstSongs_->Bind(wxEVT_LIST_ITEM_FOCUSED, onSelection);
+        form_.lstSongs_ColumnClick(event.GetColumn() + 1);
+    });
     lstSongs_->OnDoubleClick([this] { OpenActiveRow(); });
     lstSongs_->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent&) {
         // A list without a current row asks twice, and selects the row in between.
@@ -249,6 +247,8 @@ void Form1Window::ShowListMenu() {
     ShowResultListMenu(*lstSongs_, form_);
 }
 
+/// Tells the model which row is selected, when it needs to know: events come for each of many rows,
+/// and not for a range of them.
 void Form1Window::SelectActiveRow() {
     const std::size_t active = lstSongs_->ActivePosition();
     if (active == 0 || active > form_.lstSongs().RowCount())
@@ -257,7 +257,6 @@ void Form1Window::SelectActiveRow() {
         form_.lstSongs().Select(active);
 }
 
-/// Not every selection is told, such as that of a range.
 void Form1Window::OpenActiveRow() {
     SelectActiveRow();
     form_.lstSongs_DblClick();
@@ -267,6 +266,8 @@ void Form1Window::OnClose(wxCloseEvent& event) {
     if (!form_.Form_QueryUnload()) {
         if (event.CanVeto())
             event.Veto();
+        else
+            form_.Form_Unload();  // the desktop is shutting down, and may not wait for the run
         return;
     }
     form_.Form_Unload();
@@ -281,7 +282,8 @@ void Form1Window::OnKey(wxKeyEvent& event) {
         form_.cmdButtons_Click(static_cast<int>(kCancelItem));
     else if (isInList && event.GetModifiers() == wxMOD_CONTROL && event.GetKeyCode() == 'C')
         CopySelectedRows(*lstSongs_, form_.lstSongs());
-    else if (isInList && event.GetKeyCode() == WXK_RETURN)
+    else if (isInList &&
+             (event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER))
         OpenActiveRow();
     else
         event.Skip();
@@ -322,6 +324,8 @@ void Form1Window::FollowFocus(const FormState& state) {
 }
 
 void Form1Window::ShowText1(const std::string& text) {
+    if (text.empty())
+        paintedPhase_.clear();  // the same phase may come again
     text1_->SetText(text);
 }
 
@@ -418,17 +422,21 @@ std::string Form1Window::SearchText() const {
 }
 
 void Form1Window::SetProgramIcon(const std::string& path) {
+    const wxLogNull quiet;
     std::error_code error;
-    if (!platform::IsFile(path, error))
-        return;
+    wxIconBundle file;
+    file.AddIcon(ToolkitPath(platform::IsFile(path, error) ? path : Picture("plug_48x48.ico")),
+                 wxBITMAP_TYPE_ICO);
     // Only the two sizes that are asked for: all of them are more than a window manager likes.
-    const wxIconBundle file(ToolkitPath(path), wxBITMAP_TYPE_ICO);
     wxIconBundle icons;
     for (const int size : {kLargeIcon, kSmallIcon}) {
         const int dots = static_cast<int>(std::lround(size * GetContentScaleFactor()));
-        icons.AddIcon(file.GetIcon(wxSize(dots, dots), wxIconBundle::FALLBACK_NEAREST_LARGER));
+        const wxIcon icon = file.GetIcon(wxSize(dots, dots), wxIconBundle::FALLBACK_NEAREST_LARGER);
+        if (icon.IsOk())
+            icons.AddIcon(icon);
     }
-    SetIcons(icons);
+    if (!icons.IsEmpty())
+        SetIcons(icons);
 }
 
 void Form1Window::Later(const std::function<void()>& action) {
@@ -454,9 +462,12 @@ void Form1Window::LetEventsRun() {
 }
 
 void Form1Window::SetHourglass(bool isShown) {
+    // A search that failed leaves it; the toolkit counts.
+    if (isShown == wxIsBusy())
+        return;
     if (isShown)
         wxBeginBusyCursor();
-    else if (wxIsBusy())
+    else
         wxEndBusyCursor();
 }
 

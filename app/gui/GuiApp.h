@@ -1,5 +1,6 @@
 #pragma once
 
+#include <iostream>
 #include <wx/app.h>
 #include <wx/image.h>
 
@@ -15,6 +16,13 @@ class GuiApp : public wxApp {
         wxImage::AddHandler(new wxICOHandler);
         wxImage::AddHandler(new wxPNGHandler);
         return true;
+    }
+
+    /// A check of the toolkit's own that failed is no reason to stop the user.
+    void OnAssertFailure(const wxChar* file, int line, const wxChar* /*function*/,
+                         const wxChar* condition, const wxChar* message) override {
+        std::cerr << "marlo: " << wxString(file) << ":" << line << ": " << wxString(condition)
+                  << (message == nullptr ? wxString() : ": " + wxString(message)) << std::endl;
     }
 
     /// The window's texts are English and its places fixed. Finding the user's direction out would

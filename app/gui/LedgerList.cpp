@@ -18,10 +18,13 @@ namespace {
 
 // The images of the rows: nothing to be seen, but as high as a row should be.
 constexpr int kImageHeight = 20;  // design pixels
-constexpr int kTwipsPerDesignPixel = 15;
 
 constexpr int kCellPadding = 14;    // design pixels
 constexpr int kHeaderPadding = 34;  // the same, with room for the sort arrow
+
+// One hostile name must not push the other columns out of reach.
+constexpr int kMostColumnWidth = 2000;         // design pixels
+constexpr std::size_t kMostCellLength = 1000;  // characters
 
 class DcMeasure final : public TextMeasure {
   public:
@@ -73,10 +76,9 @@ void LedgerList::ShowHeaders() {
 }
 
 void LedgerList::ShowSelection() {
-    // Deselecting tells the model that nothing is selected.
     const std::size_t selected = rows_.SelectedPosition();
-    for (const std::size_t position : SelectedPositions())
-        SetItemState(static_cast<long>(position) - 1, 0, wxLIST_STATE_SELECTED);
+    constexpr long allRows = -1;
+    SetItemState(allRows, 0, wxLIST_STATE_SELECTED);
     if (selected == 0)
         return;
     const long item = static_cast<long>(selected) - 1;
@@ -125,8 +127,10 @@ void LedgerList::RemoveLedger() {
 
 /// The toolkit makes a row as high as its image and adds something of its own.
 void LedgerList::SetRowHeight(int pixels) {
-    if (GetItemCount() == 0)
+    // A font may be too large for it; another attempt would not help.
+    if (GetItemCount() == 0 || pixels == triedRowHeight_)
         return;
+    triedRowHeight_ = pixels;
     const auto setSpacer = [this](int height) {
         spacerHeight_ = height;
         wxImage nothing(1, height);

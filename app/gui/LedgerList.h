@@ -53,6 +53,7 @@ class LedgerList final : public wxListCtrl {
     std::size_t fittedRevision_ = 0;
     std::vector<int> fittedWidths_;
     int spacerHeight_ = 0;
+    int triedRowHeight_ = 0;
     mutable wxItemAttr bands_[2][2];  ///< by parity, and whether the row is greyed
 };
 

@@ -179,7 +179,10 @@ void OptionsDialog::BindEvents() {
         button->Bind(wxEVT_BUTTON, [handler](wxCommandEvent&) { handler(); });
     };
     onClick(cmdAdd_, [this] { logic_.cmdAdd_Click(); });
-    onClick(cmdRemove_, [this] { logic_.cmdRemove_Click(); });
+    onClick(cmdRemove_, [this] {
+        logic_.SelectPath(lstPaths_->ActivePosition());
+        logic_.cmdRemove_Click();
+    });
     onClick(cmdTab2Search_, [this] { logic_.cmdTab2Search_Click(); });
     Bind(
         wxEVT_BUTTON, [this](wxCommandEvent&) { logic_.cmdOk_Click(); }, wxID_OK);
@@ -194,11 +197,6 @@ void OptionsDialog::BindEvents() {
                        [this](wxCommandEvent& event) { logic_.SetIgnoreDX(event.IsChecked()); });
     chkIgnoreOff_->Bind(wxEVT_CHECKBOX,
                         [this](wxCommandEvent& event) { logic_.SetIgnoreOff(event.IsChecked()); });
-    const auto onSelection = [this](wxListEvent&) {
-        logic_.SelectPath(lstPaths_->ActivePosition());
-    };
-    lstPaths_->Bind(wxEVT_LIST_ITEM_SELECTED, onSelection);
-    lstPaths_->Bind(wxEVT_LIST_ITEM_DESELECTED, onSelection);
     lstPaths_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         event.Skip();
         lstPaths_->AutoSizeColumns();

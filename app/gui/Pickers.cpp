@@ -1,11 +1,13 @@
 #include "app/gui/Pickers.h"
 
+#include <system_error>
 #include <wx/dirdlg.h>
 #include <wx/filedlg.h>
 #include <wx/filename.h>
 #include <wx/utils.h>
 
 #include "app/gui/TextConversion.h"
+#include "platform/FileSystem.h"
 
 namespace marlo::gui {
 
@@ -41,9 +43,12 @@ std::optional<std::string> FolderPicker::ChooseFolder(const FolderRequest& reque
     long style = wxDD_DIR_MUST_EXIST;
     if ((request.flags & FolderRequest::kNewStyle) != 0)
         style |= wxRESIZE_BORDER;
-    // Some choosers begin with the files used last, where no folder can be chosen.
-    const wxString start =
-        request.initialFolder.empty() ? wxGetHomeDir() : ToolkitPath(request.initialFolder);
+    // Some choosers begin with the files used last where there is no such folder, and there no
+    // folder can be chosen.
+    std::error_code error;
+    const wxString start = platform::IsFolder(request.initialFolder, error)
+                               ? ToolkitPath(request.initialFolder)
+                               : wxGetHomeDir();
     wxDirDialog dialog(owner_, Shown(request.title), start, style);
     if (dialog.ShowModal() != wxID_OK)
         return std::nullopt;

@@ -5,6 +5,7 @@
 #include <system_error>
 #include <wx/bmpbndl.h>
 #include <wx/image.h>
+#include <wx/log.h>
 #include <wx/window.h>
 
 #include "app/gui/TextConversion.h"
@@ -46,6 +47,7 @@ wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSi
     std::error_code error;
     if (!platform::IsFile(path, error))
         return {};
+    const wxLogNull quiet;  // a picture that cannot be shown is left out
     const wxSize dots = Dots(window, size);
     if (IsDrawing(path))
         return Sharp(window, wxBitmapBundle::FromSVGFile(ToolkitPath(path), dots).GetBitmap(dots));

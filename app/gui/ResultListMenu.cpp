@@ -2,14 +2,23 @@
 
 #include <wx/clipbrd.h>
 #include <wx/filedlg.h>
+#include <wx/filename.h>
 #include <wx/menu.h>
 
+#include "app/gui/MessageBox.h"
 #include "app/gui/TextConversion.h"
 #include "reports/ListPage.h"
 
 namespace marlo::gui {
 
 namespace {
+
+bool MayReplace(wxWindow* owner, const wxFileName& file) {
+    return ShowMessageBox(owner, {.text = FieldOf(file.GetFullName()) +
+                                          " is there already. Do you want to replace it?",
+                                  .buttons = MessageButtons::YesNo,
+                                  .icon = MessageIcon::Question}) == MessageAnswer::Yes;
+}
 
 /// Lets the user choose a file, and saves the list there.
 void SaveListAs(wxWindow* owner, Form1& form) {
@@ -18,12 +27,16 @@ void SaveListAs(wxWindow* owner, Form1& form) {
                         wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
     if (dialog.ShowModal() != wxID_OK)
         return;
-    std::string path = PathOf(dialog.GetPath());
-    // Some choosers leave the name alone when the user picks the other kind.
+    wxFileName file(dialog.GetPath());
+    // Choosers leave the name alone when the user picks the other kind, and have asked about that
+    // name only.
     constexpr int pageFilter = 1;
-    if (dialog.GetFilterIndex() == pageFilter && path.ends_with(".csv"))
-        path.replace(path.size() - 3, 3, "html");
-    form.SaveList(path);
+    if (dialog.GetFilterIndex() == pageFilter && !file.GetExt().Lower().StartsWith("htm")) {
+        file.SetExt("html");
+        if (file.FileExists() && !MayReplace(owner, file))
+            return;
+    }
+    form.SaveList(PathOf(file.GetFullPath()));
 }
 
 }  // namespace

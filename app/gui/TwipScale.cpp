@@ -7,12 +7,6 @@
 
 namespace marlo::gui {
 
-namespace {
-
-constexpr int kTwipsPerDesignPixel = 1440 / 96;
-
-}  // namespace
-
 TwipScale::TwipScale(const wxWindow& window) {
     constexpr int precision = 1000;
     pixelsPerTwip_ = static_cast<double>(window.FromDIP(precision)) / precision /

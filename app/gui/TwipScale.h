@@ -23,6 +23,9 @@ class TwipScale {
     double pixelsPerTwip_;
 };
 
+/// Of a design for 96 dots per inch.
+inline constexpr int kTwipsPerDesignPixel = 1440 / 96;
+
 /// A length of a design for 96 dots per inch, in a window's pixels.
 int DesignPixels(const wxWindow& window, int pixels);
 

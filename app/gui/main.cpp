@@ -8,6 +8,7 @@
 
 #include "app/gui/Form1Window.h"
 #include "app/gui/GuiApp.h"
+#include "core/ErrorLog.h"
 #include "platform/FileSystem.h"
 #include "platform/Machine.h"
 
@@ -35,6 +36,13 @@ class MarloApp final : public GuiApp {
     bool OnInit() override {
         GuiApp::OnInit();
         (new Form1Window(application_, HelpSite()))->wxFrame::Show();
+        return true;
+    }
+
+    /// What a handler cannot do, because memory is short or for whatever reason, leaves the window
+    /// as it is.
+    bool OnExceptionInMainLoop() override {
+        LogFailure(application_, "marlo");
         return true;
     }
 

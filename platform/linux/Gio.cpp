@@ -100,6 +100,19 @@ std::string NameOf(const Gio& gio, GIcon* icon) {
     return text ? text.get() : "";
 }
 
+/// Looks through all the programs that the desktop knows.
+std::string FindIconOfProgram(const Gio& gio, const std::string& path) {
+    GList* const applications = gio.all();
+    std::string icon;
+    for (const GList* entry = applications; entry != nullptr && icon.empty(); entry = entry->next) {
+        auto* const application = static_cast<GAppInfo*>(entry->data);
+        if (ProgramOf(gio, gio.commandOf(application)) == path)
+            icon = NameOf(gio, gio.iconOf(application));
+    }
+    gio.freeList(applications, gio.release);
+    return icon;
+}
+
 }  // namespace
 
 std::string GioProgramForExtension(const std::string& extension) {
@@ -114,18 +127,15 @@ std::string GioProgramForExtension(const std::string& extension) {
 }
 
 std::string GioIconOfProgram(const std::string& path) {
+    // Windows ask for the same one several times in a row.
+    static std::string lastPath;
+    static std::string lastIcon;
     const Gio& gio = LoadedGio();
-    if (!gio.IsLoaded())
-        return {};
-    GList* const applications = gio.all();
-    std::string icon;
-    for (const GList* entry = applications; entry != nullptr && icon.empty(); entry = entry->next) {
-        auto* const application = static_cast<GAppInfo*>(entry->data);
-        if (ProgramOf(gio, gio.commandOf(application)) == path)
-            icon = NameOf(gio, gio.iconOf(application));
+    if (gio.IsLoaded() && path != lastPath) {
+        lastIcon = FindIconOfProgram(gio, path);
+        lastPath = path;
     }
-    gio.freeList(applications, gio.release);
-    return icon;
+    return lastIcon;
 }
 
 bool GioOpen(const std::string& path) {

@@ -23,10 +23,13 @@ class ListPageTest : public testing::Test {
         return row;
     }
 
-    std::string Html() const { return ListAsHtml(list, "Used Plugins", test::FakeClock().Now()); }
+    std::string Html() const {
+        return ListAsHtml(list, sortedColumn, "Used Plugins", test::FakeClock().Now());
+    }
     bool HtmlHas(const std::string& text) const { return Html().find(text) != std::string::npos; }
 
     ResultList list;
+    int sortedColumn = 0;
 };
 
 TEST_F(ListPageTest, CsvHasTheHeadersAndTellsWhichRowsAreGreyed) {
@@ -61,6 +64,7 @@ TEST_F(ListPageTest, HtmlHasTheRowsFromTheTopAndMarksTheGreyedOnes) {
     GreyRow(list, Add("b", "VST"));
     Add("a", "VST");
     list.SetSorted(true);
+    sortedColumn = 1;
     EXPECT_TRUE(
         HtmlHas("<tr><td>a</td><td>VST</td></tr>\n<tr class=\"greyed\"><td>b</td><td>VST</td>"));
     EXPECT_TRUE(
@@ -83,7 +87,7 @@ TEST_F(ListPageTest, NothingInAFieldIsMarkup) {
     const std::string hostile = "</td><script>alert('x\" &amp;')</script>";
     Add(hostile, "<b>");
     list.AddColumn(hostile);
-    const std::string page = ListAsHtml(list, hostile, test::FakeClock().Now());
+    const std::string page = ListAsHtml(list, 0, hostile, test::FakeClock().Now());
     EXPECT_EQ(page.find("alert('"), std::string::npos);
     EXPECT_EQ(page.find("<b>"), std::string::npos);
     const std::string escaped =

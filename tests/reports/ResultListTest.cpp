@@ -305,6 +305,18 @@ TEST_F(ResultListTest, TheSelectedPositionFollowsTheOrder) {
     EXPECT_EQ(list.SelectedPosition(), 2U);
 }
 
+TEST_F(ResultListTest, AListThatTakesAnothersPlaceHasAnotherRevision) {
+    list.AddColumn("A");
+    Add({"a", "b"});
+    const std::size_t before = list.Revision();
+    ResultList other;
+    other.AddColumn("A");
+    other.AddRow("b", "b");
+    list = std::move(other);
+    list.AddRow("a longer one", "a longer one");
+    EXPECT_NE(list.Revision(), before);
+}
+
 TEST_F(ResultListTest, TheRevisionChangesWithWhateverIsShown) {
     std::size_t last = list.Revision();
     const auto hasChanged = [&] { return std::exchange(last, list.Revision()) != list.Revision(); };

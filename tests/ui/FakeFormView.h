@@ -89,6 +89,7 @@ class FakeFormView final : public FormView {
     void RemoveListViewLedger() override { events.emplace_back("RemoveListViewLedger"); }
     MessageAnswer ShowMessage(const Message& message) override {
         messages.push_back(message);
+        FailIf("ShowMessage");
         return answer;
     }
     FolderChooser& Folders() override { return folders; }

@@ -293,6 +293,14 @@ TEST_F(Form1ClickTest, TheResultFileItemsOpenTheirFilesInTheChosenProgram) {
               "short:" + folder.Path("resultfiles/installedplugins.csv"));
 }
 
+TEST_F(Form1ClickTest, AReportThatFailsShowsWhatItHasBeforeItTells) {
+    WriteResultFiles();
+    std::filesystem::remove(folder.Path("resultfiles/tln.csv"));
+    form.cmdButtons_Click(3);
+    ASSERT_EQ(MessageTexts(), kUnexpected);
+    EXPECT_EQ(view.events.front(), "ShowList");
+}
+
 TEST_F(Form1ClickTest, OptionsAndAboutShowTheirDialogs) {
     form.cmdButtons_Click(8);
     form.cmdButtons_Click(10);
@@ -628,6 +636,13 @@ TEST_F(Form1CloseTest, AWindowClosedDuringAnInventoryCancelsItSilentlyAndThenClo
     form.cmdButtons_Click(1);
     EXPECT_TRUE(view.messages.empty());
     EXPECT_EQ(view.events.back(), "Close");
+}
+
+TEST_F(Form1CloseTest, AWindowCanBeClosedAfterARunThatFailedAltogether) {
+    view.failing = "ShowMessage";
+    view.folders.answer = folder.Path("songs");
+    EXPECT_THROW(form.cmdButtons_Click(0), RunTimeError) << "not even the failure can be told";
+    EXPECT_TRUE(form.Form_QueryUnload());
 }
 
 TEST_F(Form1CloseTest, ARunThatWasNotClosedLeavesTheWindowOpen) {
