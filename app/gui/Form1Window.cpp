@@ -205,6 +205,10 @@ void Form1Window::BindEvents() {
     });
     Bind(wxEVT_CLOSE_WINDOW, &Form1Window::OnClose, this);
     Bind(wxEVT_CHAR_HOOK, &Form1Window::OnKey, this);
+    Bind(wxEVT_CHILD_FOCUS, [this](wxChildFocusEvent& event) {
+        event.Skip();
+        lastFocused_ = event.GetWindow();
+    });
     Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
         event.Skip();
         RenewTheme();
@@ -309,15 +313,14 @@ void Form1Window::FollowFocus(const FormState& state) {
     const bool isRunning = state.cmdbuttons.at(kCancelItem).isEnabled;
     if (isRunning == cancel->IsEnabled())
         return;
-    wxWindow* const focused = FindFocus();
     if (isRunning) {
-        const auto* const found = std::find(cmdbuttons_.begin(), cmdbuttons_.end(), focused);
+        const auto* const found = std::find(cmdbuttons_.begin(), cmdbuttons_.end(), lastFocused_);
         if (found == cmdbuttons_.end())
             return;
         focusAfterRun_ = *found;
         cancel->Enable();
         cancel->SetFocus();
-    } else if (focusAfterRun_ != nullptr && focused == cancel) {
+    } else if (focusAfterRun_ != nullptr && lastFocused_ == cancel) {
         focusAfterRun_->Enable();
         std::exchange(focusAfterRun_, nullptr)->SetFocus();
     }
@@ -424,9 +427,11 @@ std::string Form1Window::SearchText() const {
 void Form1Window::SetProgramIcon(const std::string& path) {
     const wxLogNull quiet;
     std::error_code error;
+    const std::string found = platform::IsFile(path, error) ? path : Picture("plug_48x48.ico");
+    if (!platform::IsFile(found, error))
+        return;
     wxIconBundle file;
-    file.AddIcon(ToolkitPath(platform::IsFile(path, error) ? path : Picture("plug_48x48.ico")),
-                 wxBITMAP_TYPE_ICO);
+    file.AddIcon(ToolkitPath(found), wxBITMAP_TYPE_ICO);
     // Only the two sizes that are asked for: all of them are more than a window manager likes.
     wxIconBundle icons;
     for (const int size : {kLargeIcon, kSmallIcon}) {
@@ -445,11 +450,11 @@ void Form1Window::Later(const std::function<void()>& action) {
 }
 
 void Form1Window::Repaint() {
-    // A new phase may begin with something that blocks. A percentage is no phase, and what else
-    // changes is painted with the events that run.
+    // A new phase may begin with something that blocks. A percentage is no phase.
     std::string phase = text1_->Text();
     std::erase_if(phase, [](char c) { return c >= '0' && c <= '9'; });
-    if (phase.empty() || phase == paintedPhase_)
+    const bool isNewPhase = !phase.empty() && phase != paintedPhase_;
+    if (!repaintPace_.IsDue(std::chrono::steady_clock::now()) && !isNewPhase)
         return;
     paintedPhase_ = std::move(phase);
     Update();
@@ -457,7 +462,8 @@ void Form1Window::Repaint() {
 
 void Form1Window::LetEventsRun() {
     wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
-    if (loop != nullptr && !loop->IsYielding() && pace_.IsDue(std::chrono::steady_clock::now()))
+    if (loop != nullptr && !loop->IsYielding() &&
+        eventPace_.IsDue(std::chrono::steady_clock::now()))
         loop->YieldFor(wxEVT_CATEGORY_ALL);
 }
 

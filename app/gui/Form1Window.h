@@ -92,8 +92,11 @@ class Form1Window final : public wxFrame, private FormView {
     std::function<void()> later_;
     FolderPicker folders_;
     std::array<IconBox, 2> csvIcons_;
-    Pace pace_;
+    Pace repaintPace_;
+    Pace eventPace_;
     std::string paintedPhase_;
+    /// Also while another window, such as a question that has just been answered, has the focus.
+    wxWindow* lastFocused_ = nullptr;
     wxWindow* focusAfterRun_ = nullptr;
     bool isMenuDue_ = false;
 

@@ -11,7 +11,8 @@ namespace marlo::test {
 
 /// What a test does with the dialogs that open, one after the other: each is handled by the next of
 /// the handlers that were given, which runs while the dialog is shown and has the keyboard. A
-/// dialog that nobody expects, one that is left open, and a handler that is left over fail the test.
+/// dialog that nobody expects, one that is left open, and a handler that is left over fail the
+/// test.
 class DialogHandlers final : public wxModalDialogHook {
   public:
     DialogHandlers() { Register(); }

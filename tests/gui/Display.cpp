@@ -13,6 +13,16 @@ GtkWindow* WindowOf(const wxWindow& window) {
     return GTK_WINDOW(window.GetHandle());
 }
 
+/// The control in a window that a part of the toolkit's is, or nullptr.
+wxWindow* ControlOf(wxWindow& window, const GtkWidget* part) {
+    if (window.GetHandle() == part)
+        return &window;
+    for (wxWindow* const child : window.GetChildren())
+        if (wxWindow* const found = ControlOf(*child, part))
+            return found;
+    return nullptr;
+}
+
 }  // namespace
 
 void FetchEvents() {
@@ -32,14 +42,24 @@ bool HasKeyboard(const wxWindow& window) {
     return gtk_window_is_active(WindowOf(window)) != FALSE;
 }
 
+wxWindow* FocusIn(wxWindow& window) {
+    for (GtkWidget* part = gtk_window_get_focus(WindowOf(window)); part != nullptr;
+         part = gtk_widget_get_parent(part))
+        if (wxWindow* const control = ControlOf(window, part))
+            return control;
+    return nullptr;
+}
+
 std::string TitleOf(const wxWindow& window) {
     const char* const title = gtk_window_get_title(WindowOf(window));
     return title == nullptr ? "" : title;
 }
 
-wxImage PictureOf(const wxRect& area) {
+wxImage PictureOf(wxWindow& control, const wxRect& area) {
+    control.Update();
+    const wxPoint origin = control.ClientToScreen(area.GetTopLeft());
     const std::unique_ptr<GdkPixbuf, decltype(&g_object_unref)> pixels(
-        gdk_pixbuf_get_from_window(gdk_get_default_root_window(), area.x, area.y, area.width,
+        gdk_pixbuf_get_from_window(gdk_get_default_root_window(), origin.x, origin.y, area.width,
                                    area.height),
         &g_object_unref);
     if (!pixels)
@@ -56,13 +76,18 @@ wxImage PictureOf(const wxRect& area) {
     return picture;
 }
 
-wxImage PictureOf(const wxWindow& control) {
-    return PictureOf(control.GetScreenRect());
+wxImage PictureOf(wxWindow& control) {
+    return PictureOf(control, control.GetClientRect());
 }
 
-wxColour ColourAt(const wxWindow& control, const wxPoint& point) {
-    const wxImage pixel = PictureOf(wxRect(control.ClientToScreen(point), wxSize(1, 1)));
+wxColour ColourAt(wxWindow& control, const wxPoint& point) {
+    const wxImage pixel = PictureOf(control, wxRect(point, wxSize(1, 1)));
     return {pixel.GetRed(0, 0), pixel.GetGreen(0, 0), pixel.GetBlue(0, 0)};
+}
+
+bool AreEqual(const wxImage& a, const wxImage& b) {
+    const auto size = static_cast<std::size_t>(a.GetWidth() * a.GetHeight() * 3);
+    return a.GetSize() == b.GetSize() && std::equal(a.GetData(), a.GetData() + size, b.GetData());
 }
 
 }  // namespace marlo::test

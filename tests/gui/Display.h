@@ -16,14 +16,22 @@ bool HasKeyboard();
 /// The same, for one of its windows; it may be one of the desktop's own dialogs.
 bool HasKeyboard(const wxWindow& window);
 
+/// The control that gets the keys when they go to a window; nullptr for none. The toolkit itself
+/// does not know it for each kind of control.
+wxWindow* FocusIn(wxWindow& window);
+
 /// The title that a window shows.
 std::string TitleOf(const wxWindow& window);
 
-/// What is to be seen in a part of the screen.
-wxImage PictureOf(const wxRect& area);
-/// The same, for a whole control.
-wxImage PictureOf(const wxWindow& control);
-/// The colour of a point in a control.
-wxColour ColourAt(const wxWindow& control, const wxPoint& point);
+/// What is to be seen in a part of a control, once it is painted.
+/// @param area in the coordinates of its client area.
+wxImage PictureOf(wxWindow& control, const wxRect& area);
+/// The same, for the whole of it.
+wxImage PictureOf(wxWindow& control);
+/// The colour of a point.
+wxColour ColourAt(wxWindow& control, const wxPoint& point);
+
+/// Whether two pictures of the same size are the same.
+bool AreEqual(const wxImage& a, const wxImage& b);
 
 }  // namespace marlo::test

@@ -1,7 +1,9 @@
 #include "tests/gui/GuiTest.h"
 
+#include <filesystem>
 #include <stdexcept>
 #include <wx/clipbrd.h>
+#include <wx/msgdlg.h>
 
 #include "core/Settings.h"
 #include "tools/ProjectWriter.h"
@@ -57,6 +59,28 @@ std::string GuiTest::StatusText(const std::string& box) {
     return Find<gui::StatusBox>(box).Text();
 }
 
+wxRect GuiTest::PlaceOf(const wxWindow& control) const {
+    return {window_->ScreenToClient(control.GetScreenPosition()), control.GetSize()};
+}
+
+std::set<std::size_t> GuiTest::EnabledItems() {
+    std::set<std::size_t> enabled;
+    for (std::size_t i = 0; i < kCommandItemCount; ++i)
+        if (Item(i).IsEnabled())
+            enabled.insert(i);
+    return enabled;
+}
+
+std::string GuiTest::FocusedName() {
+    const wxWindow* control = FocusIn(*window_);
+    if (control == nullptr)
+        return "";
+    // Some systems' list has its rows in a window of their own.
+    if (dynamic_cast<const gui::LedgerList*>(control->GetParent()) != nullptr)
+        control = control->GetParent();
+    return control->GetName().utf8_string();
+}
+
 void GuiTest::MoveTo(wxWindow& control, const wxPoint& point) {
     mouse_.MouseMove(control.ClientToScreen(point));
     RunEvents();
@@ -100,8 +124,22 @@ void GuiTest::Paste(const std::string& text) {
     Press('V', wxMOD_CONTROL);
 }
 
+void GuiTest::ExpectMessageBox(const wxDialog& dialog, const std::string& text, long style,
+                               const std::string& title) {
+    const auto& box = dynamic_cast<const wxMessageDialogBase&>(dialog);
+    EXPECT_EQ(box.GetMessage().utf8_string(), text);
+    EXPECT_EQ(TitleOf(box), title) << text;
+    long shown = box.GetMessageDialogStyle() & wxICON_MASK & ~wxICON_NONE;
+    for (const auto& [id, button] : {std::pair(wxID_OK, wxOK), std::pair(wxID_YES, wxYES),
+                                     std::pair(wxID_NO, wxNO), std::pair(wxID_CANCEL, wxCANCEL)})
+        if (box.FindWindow(id) != nullptr)
+            shown |= button;
+    EXPECT_EQ(shown, style) << text;
+}
+
 void GuiTest::ChooseInPicker(const wxDialog& picker, const std::string& path) {
     Press('L', wxMOD_CONTROL);
+    Press('A', wxMOD_CONTROL);
     Paste(path);
     // The picker looks the path up first, and takes no answer meanwhile. What comes after it must
     // not get the key.
@@ -110,6 +148,10 @@ void GuiTest::ChooseInPicker(const wxDialog& picker, const std::string& path) {
                     if (HasKeyboard(picker))
                         mouse_.Char(WXK_RETURN);
                 });
+}
+
+void GuiTest::AddPictures() const {
+    std::filesystem::copy(MARLO_ICONS, folder.Path("icons"));
 }
 
 void GuiTest::WriteResultFiles() const {
@@ -128,18 +170,6 @@ void GuiTest::WriteResultFiles() const {
 std::string GuiTest::AddProject(const std::string& name, const std::string& plugin) const {
     return folder.Write("songs/" + name,
                         std::string(100, '\0') + tools::PluginBytes({.name = plugin}));
-}
-
-wxWindow& GuiTest::Rows() {
-    const wxWindowList& parts = List().GetChildren();
-    return parts.empty() ? List() : *parts.GetLast()->GetData();
-}
-
-wxPoint GuiTest::RowPoint(long row) {
-    wxRect rect;
-    List().GetItemRect(row, rect);
-    const wxPoint inList(rect.x + 20, rect.y + rect.height / 2);
-    return Rows().ScreenToClient(List().ClientToScreen(inList));
 }
 
 }  // namespace marlo::test

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
-#include <vector>
 #include <wx/uiaction.h>
 #include <wx/window.h>
 
@@ -38,7 +38,15 @@ class GuiTest : public ApplicationTest {
     gui::Form1Window& Window() { return *window_; }
     bool IsWindowOpen() const { return window_ != nullptr; }
     Form1& Logic() { return window_->Logic(); }
+    /// What one of the boxes "Text1" and "Text2" at the bottom of the window shows.
     std::string StatusText(const std::string& box);
+    /// Where a control stands, from the left top of the window's client area, in pixels.
+    wxRect PlaceOf(const wxWindow& control) const;
+    /// The indexes of the command items that can be used now.
+    std::set<std::size_t> EnabledItems();
+
+    /// The name of the control that has the focus; "" for none.
+    std::string FocusedName();
 
     /// Moves the mouse to the middle of a control, or to a point in it, and clicks.
     void Click(wxWindow& control);
@@ -49,23 +57,26 @@ class GuiTest : public ApplicationTest {
     /// Presses a key. @param modifiers of wxMOD_….
     void Press(int key, int modifiers = wxMOD_NONE);
     void Type(const std::string& text);
+    /// The same as `Click` and `Press`, where the mouse is now, for the middle of a command: runs
+    /// no events.
+    void SendClick() { mouse_.MouseClick(); }
+    void SendKey(int key) { mouse_.Char(key); }
     /// Puts a text into the field that has the focus, faster than by typing.
     void Paste(const std::string& text);
 
+    /// Expects a dialog to be a message box. @param style its buttons, and its icon if it has one,
+    /// of wxOK, ….
+    static void ExpectMessageBox(const wxDialog& dialog, const std::string& text, long style,
+                                 const std::string& title = "Marlo");
     /// Chooses a path in the desktop's own picker, which is shown.
     void ChooseInPicker(const wxDialog& picker, const std::string& path);
 
+    /// Puts the program's pictures into the application folder.
+    void AddPictures() const;
     /// Makes the result files of one project and two plug-ins, one of which is installed.
     void WriteResultFiles() const;
     /// Writes a project file with one plug-in. @return its path.
     std::string AddProject(const std::string& name, const std::string& plugin = "Reverb") const;
-
-    gui::LedgerList& List() { return Find<gui::LedgerList>("lstSongs"); }
-
-    /// The point in the list's rows where a row, counted from 0, can be clicked, and the window
-    /// that the rows are in.
-    wxWindow& Rows();
-    wxPoint RowPoint(long row);
 
     DialogHandlers dialogs;
 

@@ -18,6 +18,11 @@ class TestApp final : public wxApp {
         const wxEventLoopActivator active(&loop);
         return RUN_ALL_TESTS();
     }
+    void OnAssertFailure(const wxChar* file, int line, const wxChar* function,
+                         const wxChar* condition, const wxChar* message) override {
+        ADD_FAILURE() << wxString::Format("%s:%d: %s: %s (%s)", file, line, function, condition,
+                                          message);
+    }
 };
 
 }  // namespace

@@ -1,0 +1,92 @@
+#include <array>
+#include <cstdlib>
+#include <wx/stattext.h>
+
+#include "tests/gui/GuiTest.h"
+
+namespace marlo {
+namespace {
+
+constexpr std::size_t kAbout = 10;
+
+class AboutDialogTest : public test::GuiTest {
+  protected:
+    AboutDialogTest() { Open(); }
+
+    void ExpectCentredOverTheWindow(const wxWindow& dialog) {
+        const wxRect main = Window().GetRect();
+        const wxRect place = dialog.GetRect();
+        const auto middle = [](int start, int length) { return start + length / 2; };
+        constexpr int frame = 6;  // the window manager's, which is not known in time
+        EXPECT_NEAR(middle(place.x, place.width), middle(main.x, main.width), frame);
+        EXPECT_NEAR(middle(place.y, place.height), middle(main.y, main.height), frame);
+    }
+};
+
+TEST_F(AboutDialogTest, NamesTheProgramItsVersionAndWhatItIsForFromTheTopDown) {
+    AddPictures();
+    dialogs.Handle([&](wxDialog& about) {
+        EXPECT_EQ(about.GetName(), "frmAbout");
+        EXPECT_EQ(test::TitleOf(about), "About Marlo");
+        const std::array<std::pair<const char*, const char*>, 3> texts = {{
+            {"lblTitle", "Marlo"},
+            {"lblVersion", "Version " MARLO_VERSION},
+            {"lblDescription",
+             "Everything you wanted to know about your usage of Cubase SX3 VST and DirectX "
+             "Plugins"},
+        }};
+        int bottom = 0;
+        for (const auto& [name, text] : texts) {
+            const auto& label = Find<wxStaticText>(name, &about);
+            wxString shown = label.GetLabelText();
+            shown.Replace("\n", " ");  // where it was wrapped
+            EXPECT_EQ(shown, text);
+            EXPECT_GE(label.GetPosition().y, bottom) << name;
+            bottom = label.GetRect().GetBottom();
+        }
+        EXPECT_GE(Find("cmdOk", &about).GetPosition().y, bottom);
+        EXPECT_TRUE(Find("Image1", &about).IsShownOnScreen());
+        Press(WXK_ESCAPE);
+    });
+    Click(Item(kAbout));
+}
+
+TEST_F(AboutDialogTest, EnterClosesIt) {
+    dialogs.Handle([&](wxDialog& /*about*/) { Press(WXK_RETURN); });
+    Click(Item(kAbout));
+}
+
+TEST_F(AboutDialogTest, AClickOnItsButtonClosesIt) {
+    dialogs.Handle([&](wxDialog& about) { Click(Find("cmdOk", &about)); });
+    Click(Item(kAbout));
+}
+
+TEST_F(AboutDialogTest, StandsInTheMiddleOfTheWindow) {
+    dialogs.Handle([&](wxDialog& about) {
+        ExpectCentredOverTheWindow(about);
+        Press(WXK_ESCAPE);
+    });
+    Click(Item(kAbout));
+}
+
+TEST_F(AboutDialogTest, StandsInTheMiddleOfAWindowThatIsPartlyOffTheScreen) {
+    // The dialog itself has room, else the window manager moves it.
+    const wxSize room(250, 200);
+    const wxSize screen = wxGetDisplaySize();
+    const wxSize half = Window().GetSize() / 2;
+    const wxPoint corner(screen.x - room.x - half.x, screen.y - room.y - half.y);
+    const wxPoint client = Window().ClientToScreen({0, 0}) - Window().GetPosition();
+    Window().Move(corner);
+    ASSERT_TRUE(test::RunEventsUntil(
+        [&] { return Window().ClientToScreen({0, 0}) == corner + client; }));
+    ASSERT_GT(Window().GetRect().GetRight(), screen.x);
+    ASSERT_GT(Window().GetRect().GetBottom(), screen.y);
+    dialogs.Handle([&](wxDialog& about) {
+        ExpectCentredOverTheWindow(about);
+        Press(WXK_ESCAPE);
+    });
+    Click(Item(kAbout));
+}
+
+}  // namespace
+}  // namespace marlo
