@@ -21,8 +21,8 @@ struct ShellRequest {
     static constexpr int kShowNormal = 1;
 };
 
-/// A file's icon, as far as it can be told without drawing it: a name in the desktop's icon theme, or
-/// the full path of a picture file.
+/// A file's icon, as far as it can be told without drawing it: a name in the desktop's icon theme,
+/// or the full path of a picture file.
 struct ShellIcon {
     std::string name;
 };

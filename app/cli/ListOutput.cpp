@@ -103,7 +103,8 @@ void PrintList(const ResultPane& pane, const std::string& title, ListFormat form
         case ListFormat::Json:
             return PrintJson(pane.lstSongs);
         case ListFormat::Html:
-            std::cout << ListAsHtml(pane.lstSongs, SortedColumn(pane), title, pane.application.clock.Now());
+            std::cout << ListAsHtml(pane.lstSongs, SortedColumn(pane), title,
+                                    pane.application.clock.Now());
     }
 }
 

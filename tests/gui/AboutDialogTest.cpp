@@ -77,8 +77,9 @@ TEST_F(AboutDialogTest, StandsInTheMiddleOfAWindowThatIsPartlyOffTheScreen) {
     const wxPoint corner(screen.x - room.x - half.x, screen.y - room.y - half.y);
     const wxPoint client = Window().ClientToScreen({0, 0}) - Window().GetPosition();
     Window().Move(corner);
-    ASSERT_TRUE(test::RunEventsUntil(
-        [&] { return Window().ClientToScreen({0, 0}) == corner + client; }));
+    ASSERT_TRUE(test::RunEventsUntil([&] {
+        return Window().ClientToScreen({0, 0}) == corner + client;
+    }));
     ASSERT_GT(Window().GetRect().GetRight(), screen.x);
     ASSERT_GT(Window().GetRect().GetBottom(), screen.y);
     dialogs.Handle([&](wxDialog& about) {

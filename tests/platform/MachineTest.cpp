@@ -47,11 +47,13 @@ class MadeDesktop {
                       "50:text/x-boxed:*.boxed\n50:text/x-song:*.cpr\n");
         folder_.Write("data/applications/sheets.desktop",
                       "[Desktop Entry]\nType=Application\nName=Sheets\nIcon=sheets-icon\nExec=\"" +
-                          Program() + "\" %u\nMimeType=text/x-sheet;text/x-song;"
-                                      "inode/directory;x-scheme-handler/https;\n");
+                          Program() +
+                          "\" %u\nMimeType=text/x-sheet;text/x-song;"
+                          "inode/directory;x-scheme-handler/https;\n");
         folder_.Write("data/applications/drawn.desktop",
                       "[Desktop Entry]\nType=Application\nName=Drawn\nIcon=/pictures/drawn.png\n"
-                      "Exec=" + DrawnProgram() + "\n");
+                      "Exec=" +
+                          DrawnProgram() + "\n");
         folder_.Write("bin/drawn", "");
         std::filesystem::permissions(DrawnProgram(), std::filesystem::perms::owner_all);
         folder_.Write("data/applications/boxed.desktop",
