@@ -307,6 +307,11 @@ void Form1Window::Show(const FormState& state) {
     btnDonate_->Show(state.isDonateVisible);
 }
 
+void Form1Window::MoveFocusTo(wxWindow* control) {
+    control->SetFocus();
+    lastFocused_ = control;  // no event tells it while another window has the keyboard
+}
+
 /// A command that locks itself for its run hands the keyboard to Cancel, and gets it back.
 void Form1Window::FollowFocus(const FormState& state) {
     CommandItemControl* const cancel = cmdbuttons_.at(kCancelItem);
@@ -319,10 +324,10 @@ void Form1Window::FollowFocus(const FormState& state) {
             return;
         focusAfterRun_ = *found;
         cancel->Enable();
-        cancel->SetFocus();
+        MoveFocusTo(cancel);
     } else if (focusAfterRun_ != nullptr && lastFocused_ == cancel) {
         focusAfterRun_->Enable();
-        std::exchange(focusAfterRun_, nullptr)->SetFocus();
+        MoveFocusTo(std::exchange(focusAfterRun_, nullptr));
     }
 }
 

@@ -81,6 +81,7 @@ class Form1Window final : public wxFrame, private FormView {
     void OpenActiveRow();
     void OnClose(wxCloseEvent& event);
     void OnKey(wxKeyEvent& event);
+    void MoveFocusTo(wxWindow* control);
     void FollowFocus(const FormState& state);
     void PlaceInside(wxWindow* control, const marlo::Place& place, const wxPoint& origin) const;
     std::string Picture(const char* name) const;
