@@ -16,7 +16,7 @@ bool WriteOccurrences(const Application& application, MainWindow& window,
     StagedFile file(application, window, "\\resultfiles\\results.csv");
     if (!file.Create())
         return false;
-    for (const std::string& occurrence : occurrences)
+    for (const std::string_view occurrence : occurrences)
         file.WriteLine(occurrence);
     return file.MoveIntoPlace();
 }
@@ -27,7 +27,7 @@ bool WriteStates(const Application& application, MainWindow& window, std::string
     if (!file.Create())
         return false;
     for (const auto& [key, state] : states)
-        file.WriteLine(key + "," + Quoted(state));
+        file.WriteLine(std::string(key) + "," + Quoted(state));
     return file.MoveIntoPlace();
 }
 
@@ -40,7 +40,7 @@ MergedStates MergeProjects(const Application& application, const MergedStates& p
         const auto fields = SplitRecord(application, key, 3);
         if (fields.empty()) {
             WriteErrorLog(application,
-                          "Problem writing " + key + ". See " + application.folder +
+                          "Problem writing " + std::string(key) + ". See " + application.folder +
                               "\\resultfiles\\errorlog.txt for details.",
                           0, "n/a");
             ok = false;

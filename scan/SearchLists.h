@@ -1,41 +1,31 @@
 #pragma once
 
 #include <cstddef>
-#include <deque>
 #include <functional>
-#include <string>
 #include <string_view>
-#include <unordered_map>
-#include <utility>
+#include <vector>
 
-#include "core/RunTimeError.h"
+#include "core/TextArena.h"
+#include "core/TextTable.h"
 
 namespace marlo {
 
-/// A list with entries from index 1 to `UpperBound()`. An entry stays where it is in memory for as
-/// long as the list has it.
-template <class Entry>
-class List {
+/// A list of texts with indexes from 1 to `UpperBound()`.
+class TextList {
   public:
-    std::size_t UpperBound() const { return entries_.size(); }
+    std::size_t UpperBound() const { return texts_.size(); }
     /// @throws RunTimeError "Subscript out of range".
-    const Entry& operator[](std::size_t index) const {
-        if (index < 1 || index > entries_.size())
-            throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-        return entries_[index - 1];
-    }
-    auto begin() const { return entries_.begin(); }
-    auto end() const { return entries_.end(); }
+    std::string_view operator[](std::size_t index) const;
+    auto begin() const { return texts_.begin(); }
+    auto end() const { return texts_.end(); }
 
-    Entry& Append(Entry entry) { return entries_.emplace_back(std::move(entry)); }
-    void RemoveLast() { entries_.pop_back(); }
-    void Clear() { entries_.clear(); }
+    /// Adds a copy of `text`.
+    void Append(std::string_view text);
 
   private:
-    std::deque<Entry> entries_;
+    TextArena arena_;
+    std::vector<std::string_view> texts_;
 };
-
-using TextList = List<std::string>;
 
 inline constexpr std::string_view kOn = "On";
 inline constexpr std::string_view kOff = "Off";
@@ -44,27 +34,28 @@ inline constexpr std::string_view kOff = "Off";
 /// of its uses was on, "Off" before. A key is found in constant time.
 class MergedStates {
   public:
+    /// What it shows lives as long as the list.
     struct Entry {
-        std::string key;
-        std::string state;
+        std::string_view key;
+        std::string_view state;
     };
 
-    /// Adds `key` with `state`, or merges the state into the entry that has the key.
+    /// Adds a copy of `key` with `state`, or merges the state into the entry that has the key.
     /// @param beforeAdding called before a new key is added; may throw to prevent it.
     /// @return the entry.
-    const Entry& Merge(
+    Entry Merge(
         std::string_view key, std::string_view state,
         const std::function<void()>& beforeAdding = [] {});
 
-    std::size_t UpperBound() const { return entries_.UpperBound(); }
-    const Entry& operator[](std::size_t index) const { return entries_[index]; }
+    std::size_t UpperBound() const { return entries_.size(); }
+    /// @throws RunTimeError "Subscript out of range".
+    const Entry& operator[](std::size_t index) const;
     auto begin() const { return entries_.begin(); }
     auto end() const { return entries_.end(); }
-    void Clear();
 
   private:
-    List<Entry> entries_;
-    std::unordered_map<std::string_view, Entry*> index_;  // of the keys in entries_
+    TextTable keys_;
+    std::vector<Entry> entries_;  // in the order of the keys' numbers
 };
 
 /// What one search run collects.
@@ -78,7 +69,8 @@ struct SearchLists {
     /// record, with its merged state (`ProjectPluginStates`).
     MergedStates ProjectPluginKeys;
 
-    void Clear();
+    /// Empties the lists and gives their memory back.
+    void Clear() { *this = {}; }
 };
 
 }  // namespace marlo

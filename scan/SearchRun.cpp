@@ -65,7 +65,8 @@ void ScanProjects(const Application& application, MainWindow& window, SearchList
                   SearchSummary& summary) {
     const auto count = static_cast<int>(lists.ProjectFiles.UpperBound());
     int index = 0;
-    for (const std::string& path : lists.ProjectFiles) {
+    for (const std::string_view file : lists.ProjectFiles) {
+        const std::string path(file);
         const int percentage = SearchPercentage(++index, count);
         window.SetText1("(2) Finding Plugins (" + std::to_string(percentage) + "%) ...");
         window.SetText2(path);
@@ -81,7 +82,7 @@ void ScanProjects(const Application& application, MainWindow& window, SearchList
 
 void WriteResults(const Application& application, MainWindow& window, SearchLists& lists,
                   SearchSummary& summary) {
-    lists.ProjectFiles.Clear();
+    lists.ProjectFiles = {};
     window.SetText1("(3) Writing to file...");
     window.SetText2("");
     window.Repaint();

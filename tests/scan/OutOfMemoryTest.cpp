@@ -58,21 +58,27 @@ TEST_F(OutOfMemoryTest, AKeyThatCannotBeSplitIsLoggedAndMakesTheResultFilesFail)
     EXPECT_EQ(folder.Read("resultfiles/tln.csv"), "");
 }
 
-TEST_F(OutOfMemoryTest, AKeyThatCannotBeFoundAgainIsNotAddedEither) {
-    MergedStates states;
-    states.Merge("first", kOn);
-    bool thrown = false;
-    try {
-        // What the index allocates for one key.
-        const test::FailingAllocation failing(
-            [](std::size_t size) { return size == 5 * sizeof(void*); });
-        states.Merge("second", kOn);
-    } catch (const std::bad_alloc&) {
-        thrown = true;
+/// Counts down to the allocation that fails.
+int untilFailure = 0;
+
+TEST_F(OutOfMemoryTest, AKeyIsAddedWhollyOrNotAtAll) {
+    const std::string tooLongForAnyBlock(300000, 'k');
+    bool isAdded = false;
+    for (int failing = 1; !isAdded; ++failing) {
+        MergedStates states;
+        states.Merge("first", kOn);
+        try {
+            untilFailure = failing;
+            const test::FailingAllocation allocation(
+                [](std::size_t /*size*/) { return --untilFailure == 0; });
+            states.Merge(tooLongForAnyBlock, kOn);
+            isAdded = true;
+        } catch (const std::bad_alloc&) {
+            EXPECT_EQ(states.UpperBound(), 1U) << failing;
+            EXPECT_EQ(states.Merge(tooLongForAnyBlock, kOff).state, kOff) << failing;
+        }
+        EXPECT_EQ(states.UpperBound(), 2U) << failing;
     }
-    EXPECT_TRUE(thrown);
-    EXPECT_EQ(states.UpperBound(), 1U);
-    EXPECT_EQ(states.Merge("second", kOff).state, kOff);
 }
 
 }  // namespace

@@ -26,8 +26,8 @@ class ProjectDiscoveryTest : public test::ApplicationTest {
         GetListOfProjects(application, window, lists, start, includeSubfolders, false, 0,
                           projectCount);
         Paths found;
-        for (const std::string& path : lists.ProjectFiles)
-            found.push_back(path.substr(folder.Path("songs").size() + 1));
+        for (const std::string_view path : lists.ProjectFiles)
+            found.emplace_back(path.substr(folder.Path("songs").size() + 1));
         return found;
     }
 

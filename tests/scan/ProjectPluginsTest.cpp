@@ -273,7 +273,7 @@ TEST_F(ProjectPluginsTest, RecordsBeyond256MiBAreOutOfMemoryAndTheEarlierOnesKep
     EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 9U);
     EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 1U);
     EXPECT_EQ(logged.procedure, "GetPlugins4Project " + folder.Path("song.cpr") + " " +
-                                    lists.ProjectPluginKeys[1].key);
+                                    std::string(lists.ProjectPluginKeys[1].key));
 }
 
 TEST_F(ProjectPluginsTest, ANameOfMoreThan256MiBThatRunsToTheEndIsDroppedQuietly) {
@@ -327,7 +327,7 @@ TEST_F(ProjectPluginsTest, ARealProjectHasItsSevenPlugins) {
     Texts names;
     const std::size_t start = path.size() + std::string(R"("",")").size();
     for (const auto& [key, state] : lists.ProjectPluginKeys) {
-        names.push_back(key.substr(start, key.find('"', start) - start));
+        names.emplace_back(key.substr(start, key.find('"', start) - start));
         EXPECT_TRUE(key.ends_with(",\"VST    \"")) << key;
         EXPECT_EQ(state, "On") << key;
     }

@@ -29,6 +29,13 @@ TEST(TextListTest, AnIndexOutsideTheListIsOutOfRange) {
     }
 }
 
+TEST(MergedStatesTest, AnIndexOutsideTheListIsOutOfRange) {
+    MergedStates states;
+    states.Merge("a", kOn);
+    EXPECT_THROW(states[0], RunTimeError);
+    EXPECT_THROW(states[2], RunTimeError);
+}
+
 TEST(MergedStatesTest, OnStaysOnAndOffTurnsOn) {
     MergedStates states;
     states.Merge("a", kOff);
@@ -58,11 +65,16 @@ TEST(MergedStatesTest, WhatIsCalledBeforeAddingCanPreventIt) {
     EXPECT_EQ(states.Merge("a", kOn, refuse).state, kOn);
 }
 
-TEST(MergedStatesTest, ClearForgetsTheKeys) {
-    MergedStates states;
-    states.Merge("a", kOn);
-    states.Clear();
-    EXPECT_EQ(states.Merge("a", kOff).state, kOff);
+TEST(SearchListsTest, ClearForgetsEverything) {
+    SearchLists lists;
+    lists.ProjectFiles.Append("a.cpr");
+    lists.PluginOccurrences.Append("a");
+    lists.ProjectPluginKeys.Merge("a", kOn);
+    lists.Clear();
+    EXPECT_EQ(lists.ProjectFiles.UpperBound(), 0U);
+    EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 0U);
+    EXPECT_EQ(lists.ProjectPluginKeys.Merge("a", kOff).state, kOff);
+    EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 1U);
 }
 
 }  // namespace
