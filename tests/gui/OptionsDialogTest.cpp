@@ -1,6 +1,7 @@
 #include <vector>
 #include <wx/bmpcbox.h>
 #include <wx/checkbox.h>
+#include <wx/filedlg.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
 #include <wx/statbox.h>
@@ -224,6 +225,21 @@ TEST_F(OptionsDialogTest, TheProgramForCsvFilesIsShown) {
     InOptions([&] {
         SelectTab(1);
         EXPECT_EQ(ShownProgram(), "/bin/sheets");
+        Press(WXK_ESCAPE);
+    });
+}
+
+TEST_F(OptionsDialogTest, BrowseOffersProgramsThatExist) {
+    InOptions([&] {
+        SelectTab(1);
+        dialogs.Handle([&](wxDialog& dialog) {
+            const auto& picker = dynamic_cast<wxFileDialog&>(dialog);
+            EXPECT_EQ(picker.GetWildcard(), "Program files (*.exe)|*.exe|All Files|*");
+            EXPECT_TRUE(picker.HasFlag(wxFD_OPEN));
+            EXPECT_TRUE(picker.HasFlag(wxFD_FILE_MUST_EXIST));
+            Press(WXK_ESCAPE);
+        });
+        Click(Part("cmdTab2Search"));
         Press(WXK_ESCAPE);
     });
 }
