@@ -35,7 +35,8 @@ bench: ## Measure speed against baselines from the same run
 	@cmake --preset release --log-level=WARNING
 	@cmake --build --preset release
 	build/release/bench/marlo-bench
-	tests/gui/with-display build/release/bench/marlo-bench-window
+	tests/gui/with-display build/release/bench/marlo-bench-window \
+		--benchmark_enable_random_interleaving=true
 
 package: ## Pack the programs for Linux, ready to be unpacked and run
 	@$(PACKAGES) build package

@@ -1,6 +1,7 @@
 // Opens a window and ends when it has been painted. Usage: marlo-start-probe empty|marlo FOLDER
 
 #include <cstdlib>
+#include <iostream>
 #include <string>
 #include <wx/eventfilter.h>
 #include <wx/frame.h>
@@ -29,11 +30,11 @@ class EndWhenPainted final : public wxEventFilter {
 
 class ProbeApp final : public marlo::gui::GuiApp {
   public:
+    explicit ProbeApp(bool isMarlo) : isMarlo_(isMarlo) {}
+
     bool OnInit() override {
         wxEvtHandler::AddFilter(&filter_);
-        if (argc != 3)
-            return false;
-        wxFrame* const frame = argv[1] == "marlo" ? MarloWindow() : EmptyWindow();
+        wxFrame* const frame = isMarlo_ ? MarloWindow() : EmptyWindow();
         frame->Show();
         return true;
     }
@@ -53,6 +54,7 @@ class ProbeApp final : public marlo::gui::GuiApp {
         return new marlo::gui::Form1Window(application_, "");
     }
 
+    bool isMarlo_;
     EndWhenPainted filter_;
     marlo::Application application_{"",
                                     marlo::platform::SystemClock(),
@@ -64,6 +66,10 @@ class ProbeApp final : public marlo::gui::GuiApp {
 }  // namespace
 
 int main(int argc, char** argv) {
-    wxApp::SetInstance(new ProbeApp);
+    if (argc != 3) {
+        std::cerr << "Usage: marlo-start-probe empty|marlo FOLDER\n";
+        return 2;
+    }
+    wxApp::SetInstance(new ProbeApp(std::string(argv[1]) == "marlo"));
     return wxEntry(argc, argv);
 }

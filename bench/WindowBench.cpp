@@ -3,6 +3,8 @@
 
 #include <filesystem>
 #include <string>
+#include <system_error>
+#include <unistd.h>
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/image.h>
@@ -53,10 +55,33 @@ class Answering final : public MainWindow {
     Window& window_;
 };
 
+/// The folder of a program with its pictures. It is in memory, since the pace of writing to a disk
+/// changes more from one search to the next than a window costs.
+class ProgramFolder {
+  public:
+    ProgramFolder() {
+        std::filesystem::create_directories(path_ / "resultfiles");
+        std::filesystem::copy(MARLO_ICONS, path_ / "icons");
+    }
+    ProgramFolder(const ProgramFolder&) = delete;
+    ProgramFolder& operator=(const ProgramFolder&) = delete;
+    ProgramFolder(ProgramFolder&&) = delete;
+    ProgramFolder& operator=(ProgramFolder&&) = delete;
+    ~ProgramFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+    std::string Path() const { return path_.string(); }
+
+  private:
+    const std::filesystem::path path_ = "/dev/shm/marlo-bench-" + std::to_string(getpid());
+};
+
 Application SearchApplication() {
+    static const ProgramFolder programFolder;
+    const std::string folder = programFolder.Path();
     ProjectFolder(kProjectCount);
-    const std::string folder = DataFolder() + "/window";
-    std::filesystem::create_directories(folder + "/resultfiles");
     Application application = BenchApplication();
     return {folder, application.clock, application.desktop, application.registry, {}};
 }
@@ -81,7 +106,7 @@ void SearchWithoutWindow(State& state) {
 void SearchInWindow(State& state) {
     const Application application = SearchApplication();
     auto* const window = new gui::Form1Window(application, "");
-    window->wxFrame::Show();
+    window->Show();
     for (int i = 0; i < 100; ++i) {  // until it stands there
         wxEventLoopBase::GetActive()->YieldFor(wxEVT_CATEGORY_ALL);
         wxMilliSleep(10);

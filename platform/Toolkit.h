@@ -7,8 +7,20 @@ namespace marlo::platform {
 // What the window's toolkit does not tell or do on every system. To be called when the toolkit is
 // running, on its thread.
 
+/// Has the system's fonts looked up on a thread of their own. The first text would wait for that
+/// otherwise, and before it the toolkit has to read its theme.
+void StartReadingFonts();
+
+/// Has the arrows of drop-down lists taken from the toolkit itself where that looks the same.
+/// Finding them in the icon theme takes longer than everything else about such a list. To be called
+/// before any is made.
+void ShortenWayToArrows();
+
 /// How much larger than the screen's resolution calls for the user wants texts: 1 for not at all.
 double TextScale();
+
+/// Sends the display what was asked of it and is still being collected.
+void FlushDisplay();
 
 enum class ControlRole { Button, Text, Picture };
 

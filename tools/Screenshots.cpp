@@ -105,7 +105,7 @@ class Session {
                        {}},
           photographer_(photographer),
           window_(new gui::Form1Window(application_, folder)) {
-        window_->wxFrame::Show();
+        window_->Show();
         RunEvents(1000);
     }
     Session(const Session&) = delete;

@@ -18,7 +18,7 @@ class Pace {
     }
 
   private:
-    static constexpr std::chrono::milliseconds kInterval{33};  // 30 times a second
+    static constexpr std::chrono::milliseconds kInterval{66};  // 15 times a second
 
     Moment last_{};
 };

@@ -29,9 +29,15 @@ namespace marlo::gui {
 
 namespace {
 
-// The sizes that the backgrounds were drawn in.
-const wxSize kMenuPaneDrawn(176, 430);
-const wxSize kRightPaneDrawn(800, 600);
+// The widths that the panes' pictures were drawn for.
+constexpr int kMenuPaneDrawn = 176;
+constexpr int kRightPaneDrawn = 800;
+
+constexpr int kSearchBarHeight = 120;  // design pixels
+
+// For a control that the layout places. Without a size of its own the toolkit would work out the
+// best one while the control is still empty.
+const wxSize kPlacedLater(1, 1);
 
 constexpr double kSmallestItemFont = 0.8;  // of the desktop's usual one
 constexpr int kLater = 50;                 // milliseconds
@@ -50,7 +56,7 @@ wxWindow* CreatePictureView(PicturePanel* parent, const wxString& name, PictureO
     view->Bind(wxEVT_PAINT, [=](wxPaintEvent&) {
         wxAutoBufferedPaintDC dc(view);
         parent->PaintBehind(dc, view->GetPosition());
-        const wxBitmap picture = pictureOf(view);
+        const wxBitmap picture = pictureOf();
         if (picture.IsOk())
             dc.DrawBitmap(picture, 0, 0, true);
     });
@@ -64,7 +70,7 @@ wxPanel* CreatePane(wxWindow* parent, const wxString& name) {
     pane->Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, name);
     pane->Bind(wxEVT_PAINT, [pane](wxPaintEvent&) {
         wxAutoBufferedPaintDC dc(pane);
-        dc.SetBackground(pane->GetParent()->GetBackgroundColour());
+        dc.SetBackground(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
         dc.Clear();
         const Theme& theme = CurrentTheme();
         dc.SetPen(theme.paneFrame);
@@ -95,19 +101,34 @@ Form1Window::Form1Window(const Application& application, const std::string& help
     txtSearchText_->SetFocus();
 }
 
-std::string Form1Window::Picture(const char* name) const {
+bool Form1Window::Show(bool show) {
+    const bool hasChanged = wxFrame::Show(show);
+    if (show) {
+        // While the window manager finds a place for the window.
+        platform::FlushDisplay();
+        imgMenu_->LoadPictures();
+        imgRightPane_->LoadPictures();
+        btnDonate_->ShownPicture();
+        cmdFind_->ShownPicture();
+        mark_ = LoadPicture(*image1_, Picture("menu_mark.svg"), image1_->GetClientSize());
+    }
+    return hasChanged;
+}
+
+std::string Form1Window::Picture(const std::string& name) const {
     return PicturePath(application_.folder, name);
 }
 
 void Form1Window::CreateControls() {
     background_ = new wxPanel(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL);
+    // Asking the program whether it erases the background takes longer than anything else about it.
+    SetBackgroundStyle(wxBG_STYLE_SYSTEM);
+    background_->SetBackgroundStyle(wxBG_STYLE_SYSTEM);
     boxMenu_ = CreatePane(background_, "boxMenu");
     imgMenu_ = new PicturePanel(boxMenu_, "imgMenu", kMenuPaneDrawn);
     label5_ = new PictureLabel(imgMenu_, "Label5", "       Menu", GetFont().Bold().Scaled(1.15F));
     // Over the blanks of the label.
-    image1_ = CreatePictureView(imgMenu_, "Image1", [this](wxWindow* view) {
-        return LoadPicture(*view, Picture("menu_mark.svg"), view->GetClientSize());
-    });
+    image1_ = CreatePictureView(imgMenu_, "Image1", [this] { return mark_; });
     boxRightPane_ = CreatePane(background_, "boxRightPane");
     imgRightPane_ = new PicturePanel(boxRightPane_, "imgRightPane", kRightPaneDrawn);
     CreateCommandItems();
@@ -139,46 +160,61 @@ void Form1Window::CreateCommandItems() {
         if (item.command != Command::OpenResults)
             continue;
         IconBox& box = csvIcons_.at(icon);
-        wxWindow* const view =
-            CreatePictureView(panel, wxString::Format("Picture%zu", icon + 2),
-                              [&box](wxWindow* /*view*/) { return box.Picture(); });
-        box.onChange = [view] { view->Refresh(); };
+        wxWindow* const view = CreatePictureView(panel, wxString::Format("Picture%zu", icon + 2),
+                                                 [&box] { return box.Picture(); });
+        view->Hide();
+        box.onChange = [view, &box] {
+            view->Show(box.Picture().IsOk());
+            view->Refresh();
+        };
         csvIconViews_.at(icon++) = view;
     }
 }
 
 void Form1Window::CreateSearchControls() {
-    cboSearchType_ = new wxChoice(imgRightPane_, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0,
+    cboSearchType_ = new wxChoice(imgRightPane_, wxID_ANY, wxDefaultPosition, kPlacedLater, 0,
                                   nullptr, 0, wxDefaultValidator, "cboSearchType");
     platform::SetAccessibleName(cboSearchType_->GetHandle(), "Kind of match");
     label3_ = new PictureLabel(imgRightPane_, "Label3", "Ignore Case:", GetFont());
-    chkIgnoreCase_ = new wxCheckBox(imgRightPane_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
-                                    0, wxDefaultValidator, "chkIgnoreCase");
+    chkIgnoreCase_ = new wxCheckBox(imgRightPane_, wxID_ANY, "", wxDefaultPosition, kPlacedLater, 0,
+                                    wxDefaultValidator, "chkIgnoreCase");
     platform::SetAccessibleName(chkIgnoreCase_->GetHandle(), "Ignore Case:");
-    txtSearchText_ = new wxTextCtrl(imgRightPane_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+    txtSearchText_ = new wxTextCtrl(imgRightPane_, wxID_ANY, "", wxDefaultPosition, kPlacedLater,
                                     wxTE_PROCESS_ENTER, wxDefaultValidator, "txtSearchText");
     platform::SetAccessibleName(txtSearchText_->GetHandle(), "Text to search for");
     cmdFind_ = new PictureButton(imgRightPane_, "cmdFind", "Search", Picture("search.gif"),
                                  Picture("search_b&w.gif"));
-    lstSongs_ = new LedgerList(imgRightPane_, "lstSongs", form_.lstSongs());
+    lstSongs_ =
+        new LedgerList(imgRightPane_, "lstSongs", form_.lstSongs(), kPlacedLater, wxBORDER_NONE);
     platform::SetAccessibleName(lstSongs_->GetHandle(), "Results");
 }
 
 /// The items' places were drawn for small texts. They are as large as fits in there, but not much
 /// smaller than the user's other texts; where that is too large, the layout makes room.
 wxFont Form1Window::ItemFont() const {
-    int widest = 1;
+    const wxFont usual = GetFont();
+    wxClientDC dc(background_);
+    dc.SetFont(usual);
+    std::string longest;
     for (const CommandItem& item : kCommandItems)
-        if (item.pane == Pane::Menu)
-            widest = std::max(widest, GetTextExtent(item.caption).x);
-    const double fitting = static_cast<double>(scale_.Pixels(kCommandItemWidth)) / widest;
-    return GetFont().Scaled(static_cast<float>(std::clamp(fitting, kSmallestItemFont, 1.0)));
+        if (item.pane == Pane::Menu && std::string_view(item.caption).size() > longest.size())
+            longest = item.caption;
+    const double fitting =
+        static_cast<double>(scale_.Pixels(kCommandItemWidth)) / dc.GetTextExtent(longest).x;
+    return usual.Scaled(static_cast<float>(std::clamp(fitting, kSmallestItemFont, 1.0)));
 }
 
 void Form1Window::ApplyTheme() {
     const Theme& theme = CurrentTheme();
-    imgMenu_->SetPicture(Picture(theme.isDark ? "menu_pane_dark.svg" : "menu_pane.svg"));
-    imgRightPane_->SetPicture(Picture(theme.isDark ? "right_pane_dark.svg" : "right_pane.svg"));
+    const auto drawing = [&](const char* name) {
+        return Picture(name + std::string(theme.isDark ? "_dark.svg" : ".svg"));
+    };
+    imgMenu_->SetPictures({theme.menuPane, theme.menuPane, 0},
+                          {{drawing("menu_cable"), wxRect(8, 50, 14, 342)},
+                           {drawing("menu_top"), wxRect(0, 0, 176, 58)},
+                           {drawing("menu_foot"), wxRect(0, -28, 176, 28), wxBOTTOM}});
+    imgRightPane_->SetPictures({theme.searchBar, theme.rightPane, kSearchBarHeight},
+                               {{drawing("waves"), wxRect(200, 0, 600, 100)}});
     label5_->SetColour(theme.heading);
     label3_->SetColour(theme.label);
     for (std::size_t i = 0; i < kCommandItemCount; ++i)
@@ -197,7 +233,11 @@ void Form1Window::BindEvents() {
     Bind(
         wxEVT_TIMER, [this](wxTimerEvent&) { form_.Timer1_Timer(); }, timer1_.GetId());
     Bind(
-        wxEVT_TIMER, [this](wxTimerEvent&) { std::exchange(later_, nullptr)(); },
+        wxEVT_TIMER,
+        [this](wxTimerEvent&) {
+            for (const auto& action : std::exchange(later_, {}))
+                action();
+        },
         laterTimer_.GetId());
     Bind(wxEVT_ICONIZE, [this](wxIconizeEvent& event) {
         event.Skip();
@@ -430,6 +470,10 @@ std::string Form1Window::SearchText() const {
 }
 
 void Form1Window::SetProgramIcon(const std::string& path) {
+    Later([this, path] { ShowProgramIcon(path); });
+}
+
+void Form1Window::ShowProgramIcon(const std::string& path) {
     const wxLogNull quiet;
     std::error_code error;
     const std::string found = platform::IsFile(path, error) ? path : Picture("plug_48x48.ico");
@@ -450,7 +494,7 @@ void Form1Window::SetProgramIcon(const std::string& path) {
 }
 
 void Form1Window::Later(const std::function<void()>& action) {
-    later_ = action;
+    later_.push_back(action);
     laterTimer_.StartOnce(kLater);
 }
 

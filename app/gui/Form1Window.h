@@ -32,6 +32,8 @@ class Form1Window final : public wxFrame, private FormView {
     Form1Window& operator=(Form1Window&&) = delete;
     ~Form1Window() override { DestroyChildren(); }  // which tell the logic what happens to them
 
+    bool Show(bool show = true) override;
+
     Form1& Logic() { return form_; }
 
   private:
@@ -67,7 +69,6 @@ class Form1Window final : public wxFrame, private FormView {
     void ShowAbout() override;
     void Close() override;
     using wxFrame::Close;
-    using wxFrame::Show;
 
     void CreateControls();
     void CreateCommandItems();
@@ -84,13 +85,14 @@ class Form1Window final : public wxFrame, private FormView {
     void MoveFocusTo(wxWindow* control);
     void FollowFocus(const FormState& state);
     void PlaceInside(wxWindow* control, const marlo::Place& place, const wxPoint& origin) const;
-    std::string Picture(const char* name) const;
+    void ShowProgramIcon(const std::string& path);
+    std::string Picture(const std::string& name) const;
 
     const Application& application_;
     TwipScale scale_;
     wxTimer timer1_;
     wxTimer laterTimer_;
-    std::function<void()> later_;
+    std::vector<std::function<void()>> later_;
     FolderPicker folders_;
     std::array<IconBox, 2> csvIcons_;
     Pace repaintPace_;
@@ -106,6 +108,7 @@ class Form1Window final : public wxFrame, private FormView {
     PicturePanel* imgMenu_ = nullptr;
     PictureLabel* label5_ = nullptr;
     wxWindow* image1_ = nullptr;
+    wxBitmap mark_;
     std::array<CommandItemControl*, kCommandItemCount> cmdbuttons_{};
     std::array<wxWindow*, 2> csvIconViews_{};
     PictureButton* btnDonate_ = nullptr;

@@ -4,12 +4,16 @@
 #include <wx/app.h>
 #include <wx/image.h>
 
+#include "platform/Toolkit.h"
+
 namespace marlo::gui {
 
 /// What every program that shows Marlo's windows is.
 class GuiApp : public wxApp {
   public:
     bool OnInit() override {
+        platform::StartReadingFonts();
+        platform::ShortenWayToArrows();
         SetAppName("marlo");
         SetAppDisplayName("Marlo");
         wxImage::AddHandler(new wxGIFHandler);

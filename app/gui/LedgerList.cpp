@@ -40,10 +40,12 @@ class DcMeasure final : public TextMeasure {
 
 }  // namespace
 
-LedgerList::LedgerList(wxWindow* parent, const wxString& name, const ResultList& rows, long style)
-    : wxListCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                 wxLC_REPORT | wxLC_VIRTUAL | style, wxDefaultValidator, name),
+LedgerList::LedgerList(wxWindow* parent, const wxString& name, const ResultList& rows,
+                       const wxSize& size, long style)
+    : wxListCtrl(parent, wxID_ANY, wxDefaultPosition, size,
+                 wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER | style, wxDefaultValidator, name),
       rows_(rows),
+      hasHeader_((style & wxLC_NO_HEADER) == 0),
       shownRevision_(rows.Revision() - 1) {
     RemoveLedger();
 }
@@ -71,6 +73,7 @@ void LedgerList::ShowHeaders() {
     if (isSame)
         return;
     DeleteAllColumns();
+    SetSingleStyle(wxLC_NO_HEADER, !hasHeader_ || rows_.ColumnCount() == 0);
     for (int column = 1; column <= rows_.ColumnCount(); ++column)
         AppendColumn(Shown(rows_.Header(column)));
 }

@@ -15,7 +15,8 @@ namespace marlo::gui {
 class LedgerList final : public wxListCtrl {
   public:
     /// @param rows outlives this.
-    LedgerList(wxWindow* parent, const wxString& name, const ResultList& rows, long style = 0);
+    LedgerList(wxWindow* parent, const wxString& name, const ResultList& rows, const wxSize& size,
+               long style);
 
     /// Brings the control in line with the model.
     /// @param sortedColumn the column whose header tells that it orders the rows, 1-based; 0 for
@@ -49,6 +50,7 @@ class LedgerList final : public wxListCtrl {
     void SetRowHeight(int pixels);
 
     const ResultList& rows_;
+    const bool hasHeader_;  // once there are columns
     std::size_t shownRevision_ = 0;
     std::size_t fittedRevision_ = 0;
     std::vector<int> fittedWidths_;

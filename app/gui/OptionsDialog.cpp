@@ -90,7 +90,7 @@ void OptionsDialog::CreateControls() {
 
 wxWindow* OptionsDialog::CreateFoldersTab() {
     auto* const page = CreatePage(tabs_);
-    lstPaths_ = new LedgerList(page, "LstPaths", logic_.State().LstPaths,
+    lstPaths_ = new LedgerList(page, "LstPaths", logic_.State().LstPaths, wxDefaultSize,
                                wxLC_SINGLE_SEL | wxLC_NO_HEADER | wxBORDER_SIMPLE);
     lstPaths_->SetMinSize(wxSize(Pixels(380), Pixels(180)));
     platform::SetAccessibleName(lstPaths_->GetHandle(), "Plugin Folders");

@@ -12,8 +12,9 @@ namespace marlo::gui {
 PictureControl::PictureControl(PicturePanel* parent, const wxString& name) : panel_(parent) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxWANTS_CHARS, name);
-    SetCursor(panel_->HandCursor());
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
+    Bind(wxEVT_SET_CURSOR,
+         [this](wxSetCursorEvent& event) { event.SetCursor(panel_->HandCursor()); });
     Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
         panel_->MarkFocus(this);
         event.Skip();
@@ -77,7 +78,7 @@ void CommandItemControl::SetCaption(const wxString& caption) {
     if (caption == caption_)
         return;
     caption_ = caption;
-    GetTextExtent(caption, &naturalSize_.x, &naturalSize_.y, nullptr, nullptr, &font_);
+    naturalSize_ = Panel().TextSize(caption, font_);
     SetAccessibleLabel(caption);
     Refresh();
 }
@@ -106,26 +107,30 @@ void CommandItemControl::Draw(wxDC& dc) {
     }
     dc.SetFont(isHovered_ && IsEnabled() ? font_.Underlined() : font_);
     dc.SetTextForeground(IsEnabled() ? enabledColour_ : disabledColour_);
-    dc.DrawText(caption_, 0, (area.height - naturalSize_.y) / 2);
+    DrawText(dc, caption_, 0, (area.height - naturalSize_.y) / 2);
 }
 
 PictureButton::PictureButton(PicturePanel* parent, const wxString& name, const wxString& label,
                              std::string enabledPath, std::string disabledPath)
-    : PictureControl(parent, name), paths_{std::move(disabledPath), std::move(enabledPath)} {
+    : PictureControl(parent, name),
+      pictures_{{{std::move(disabledPath), {}, {}}, {std::move(enabledPath), {}, {}}}} {
     SetAccessibleLabel(label);
     SetToolTip(label);
 }
 
-void PictureButton::Draw(wxDC& dc) {
+const wxBitmap& PictureButton::ShownPicture() {
     const wxSize size = GetClientSize();
-    if (size != loadedFor_) {
-        loadedFor_ = size;
-        for (std::size_t i = 0; i < 2; ++i)
-            pictures_[i] = LoadPicture(*this, paths_[i], size);
+    Picture& shown = pictures_[IsEnabled() ? 1 : 0];
+    if (shown.loadedFor != size) {
+        shown.loadedFor = size;
+        shown.bitmap = LoadPicture(*this, shown.path, size);
     }
-    const wxBitmap& picture = pictures_[IsEnabled() ? 1 : 0];
-    if (picture.IsOk())
-        dc.DrawBitmap(picture, 0, 0, true);
+    return shown.bitmap;
+}
+
+void PictureButton::Draw(wxDC& dc) {
+    if (ShownPicture().IsOk())
+        dc.DrawBitmap(ShownPicture(), 0, 0, true);
 }
 
 }  // namespace marlo::gui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <string>
 #include <wx/bitmap.h>
@@ -66,12 +67,19 @@ class PictureButton final : public PictureControl {
     PictureButton(PicturePanel* parent, const wxString& name, const wxString& label,
                   std::string enabledPath, std::string disabledPath);
 
+    /// The picture of the moment, which is loaded for the button's size when that has changed.
+    const wxBitmap& ShownPicture();
+
   private:
+    struct Picture {
+        std::string path;
+        wxBitmap bitmap;
+        wxSize loadedFor;
+    };
+
     void Draw(wxDC& dc) override;
 
-    std::string paths_[2];  ///< disabled, enabled
-    wxBitmap pictures_[2];
-    wxSize loadedFor_;
+    std::array<Picture, 2> pictures_;  ///< disabled, enabled
 };
 
 }  // namespace marlo::gui

@@ -1,6 +1,10 @@
 #include "app/gui/PicturePanel.h"
 
+#include <cmath>
+#include <utility>
 #include <wx/dcbuffer.h>
+#include <wx/dcclient.h>
+#include <wx/graphics.h>
 
 #include "app/gui/Pictures.h"
 #include "app/gui/Theme.h"
@@ -9,8 +13,15 @@
 
 namespace marlo::gui {
 
-PicturePanel::PicturePanel(wxWindow* parent, const wxString& name, const wxSize& drawnSize)
-    : drawnSize_(drawnSize) {
+void DrawText(wxDC& dc, const wxString& text, int x, int y) {
+    if (wxGraphicsContext* const context = dc.GetGraphicsContext())
+        context->DrawText(text, x, y);
+    else
+        dc.DrawText(text, x, y);
+}
+
+PicturePanel::PicturePanel(wxWindow* parent, const wxString& name, int drawnWidth)
+    : drawnWidth_(drawnWidth) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, name);
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
@@ -37,46 +48,74 @@ void PicturePanel::MarkFocus(wxWindow* control) {
     focused_ = control;
 }
 
-void PicturePanel::SetPicture(const std::string& path) {
-    path_ = path;
-    picture_ = {};
-    loadedFor_ = {};
+const wxCursor& PicturePanel::HandCursor() {
+    if (!handCursor_.IsOk())
+        handCursor_ = wxCursor(wxCURSOR_HAND);
+    return handCursor_;
+}
+
+void PicturePanel::SetPictures(const Ground& ground, std::vector<Piece> pieces) {
+    ground_ = ground;
+    pieces_ = std::move(pieces);
+    loadedFor_ = 0;
     Refresh();
 }
 
 void PicturePanel::PaintBehind(wxDC& dc, const wxPoint& origin) {
-    LoadFor(GetClientSize());
-    if (picture_.IsOk()) {
-        dc.DrawBitmap(picture_, -origin.x, -origin.y);
-        return;
-    }
-    dc.SetBackground(GetBackgroundColour());
+    LoadPictures();
+    dc.SetBackground(ground_.rest);
     dc.Clear();
+    const wxSize size = GetClientSize();
+    if (ground_.topHeight > 0) {
+        dc.SetPen(*wxTRANSPARENT_PEN);
+        dc.SetBrush(ground_.top);
+        dc.DrawRectangle(-origin.x, -origin.y, size.x, DesignPixels(*this, ground_.topHeight));
+    }
+    for (std::size_t i = 0; i < pictures_.size(); ++i) {
+        wxPoint place = Enlarged(pieces_[i].drawn).GetTopLeft() - origin;
+        if (pieces_[i].edge == wxBOTTOM)
+            place.y += size.y;
+        if (pictures_[i].IsOk())
+            dc.DrawBitmap(pictures_[i], place);
+    }
 }
 
-/// Drawing takes time, so a picture that is large enough is kept while the window is resized.
-void PicturePanel::LoadFor(const wxSize& size) {
-    const bool isLargeEnough = size.x <= loadedFor_.x && size.y <= loadedFor_.y;
-    if (isLargeEnough || path_.empty() || size.x <= 0 || size.y <= 0)
+wxRect PicturePanel::Enlarged(const wxRect& drawn) const {
+    const double enlargement = static_cast<double>(GetClientSize().x) / drawnWidth_;
+    const auto enlarged = [&](int length) {
+        return static_cast<int>(std::lround(length * enlargement));
+    };
+    return {enlarged(drawn.x), enlarged(drawn.y), enlarged(drawn.width), enlarged(drawn.height)};
+}
+
+void PicturePanel::LoadPictures() {
+    if (GetClientSize().x == loadedFor_)
         return;
-    loadedFor_ = {std::max(size.x, loadedFor_.x), std::max(size.y, loadedFor_.y)};
-    picture_ = LoadBackground(*this, path_, drawnSize_, loadedFor_);
+    loadedFor_ = GetClientSize().x;
+    pictures_.clear();
+    for (const Piece& piece : pieces_)
+        pictures_.push_back(LoadPicture(*this, piece.path, Enlarged(piece.drawn).GetSize()));
+}
+
+wxSize PicturePanel::TextSize(const wxString& text, const wxFont& font) {
+    wxClientDC dc(this);
+    dc.SetFont(font);
+    return dc.GetTextExtent(text);
 }
 
 PictureLabel::PictureLabel(PicturePanel* parent, const wxString& name, const wxString& text,
                            const wxFont& font)
-    : text_(text), font_(font) {
+    : text_(text), font_(font), textSize_(parent->TextSize(text, font)) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE, name);
     platform::SetAccessibleName(GetHandle(), platform::ControlRole::Text,
                                 wxString(text).Trim(false).utf8_string());
-    GetTextExtent(text_, &textSize_.x, &textSize_.y, nullptr, nullptr, &font_);
     Bind(wxEVT_PAINT, [this, parent](wxPaintEvent&) {
         wxAutoBufferedPaintDC dc(this);
         parent->PaintBehind(dc, GetPosition());
         dc.SetFont(font_);
         dc.SetTextForeground(colour_);
-        dc.DrawText(text_, 0, (GetClientSize().y - textSize_.y) / 2);
+        DrawText(dc, text_, 0, (GetClientSize().y - textSize_.y) / 2);
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 #include <wx/bitmap.h>
 #include <wx/cursor.h>
 #include <wx/font.h>
@@ -8,35 +9,60 @@
 
 namespace marlo::gui {
 
-/// A panel with a picture behind its controls.
+/// The colours behind a panel's pictures.
+struct Ground {
+    wxColour top;
+    wxColour rest;
+    int topHeight = 0;  ///< in design pixels
+};
+
+/// A picture on a panel, opaque, which is as much larger than drawn as the panel is wider.
+struct Piece {
+    std::string path;
+    wxRect drawn;
+    wxDirection edge = wxTOP;  ///< of the panel, which the place counts from
+};
+
+/// Draws a text in the font and colour of a DC, which would measure it as well.
+void DrawText(wxDC& dc, const wxString& text, int x, int y);
+
+/// A panel with pictures behind its controls.
 class PicturePanel final : public wxPanel {
   public:
-    /// @param drawnSize the size that the picture was drawn in.
-    PicturePanel(wxWindow* parent, const wxString& name, const wxSize& drawnSize);
+    /// @param drawnWidth the width of the panel that the pictures were drawn for.
+    PicturePanel(wxWindow* parent, const wxString& name, int drawnWidth);
 
-    void SetPicture(const std::string& path);
+    /// @param pieces from back to front.
+    void SetPictures(const Ground& ground, std::vector<Piece> pieces);
+
+    /// Loads the pictures for the panel's width, which painting would do otherwise.
+    void LoadPictures();
 
     /// Paints what is behind a control, for one that paints itself.
     /// @param origin the control's left top corner in the panel.
     void PaintBehind(wxDC& dc, const wxPoint& origin);
 
+    /// The size of a text that is drawn on the panel.
+    wxSize TextSize(const wxString& text, const wxFont& font);
+
     /// The pointer over what can be clicked, one for all of them.
-    const wxCursor& HandCursor() const { return handCursor_; }
+    const wxCursor& HandCursor();
 
     /// Paints a ring around the control that has the focus; none for nullptr.
     void MarkFocus(wxWindow* control);
 
   private:
     void Paint();
+    wxRect Enlarged(const wxRect& drawn) const;
     wxRect RingOf(const wxWindow& control) const;
-    void LoadFor(const wxSize& size);
 
-    wxSize drawnSize_;
-    std::string path_;
-    wxBitmap picture_;
-    wxSize loadedFor_;
+    int drawnWidth_;
+    Ground ground_;
+    std::vector<Piece> pieces_;
+    std::vector<wxBitmap> pictures_;
+    int loadedFor_ = 0;
     wxWindow* focused_ = nullptr;
-    wxCursor handCursor_{wxCURSOR_HAND};
+    wxCursor handCursor_;
 };
 
 /// A text on a picture, which does nothing.

@@ -1,6 +1,5 @@
 #include "app/gui/Pictures.h"
 
-#include <algorithm>
 #include <cmath>
 #include <system_error>
 #include <wx/bmpbndl.h>
@@ -57,16 +56,6 @@ wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSi
     if (!image.HasAlpha())
         image.InitAlpha();  // else the mask's colour bleeds into the edges
     return Sharp(window, wxBitmap(image.Scale(dots.x, dots.y, wxIMAGE_QUALITY_HIGH)));
-}
-
-wxBitmap LoadBackground(const wxWindow& window, const std::string& path, const wxSize& drawnSize,
-                        const wxSize& size) {
-    const double enlargement = std::max(static_cast<double>(size.x) / drawnSize.x,
-                                        static_cast<double>(size.y) / drawnSize.y);
-    const auto enlarged = [&](int length) {
-        return static_cast<int>(std::ceil(length * enlargement));
-    };
-    return LoadPicture(window, path, {enlarged(drawnSize.x), enlarged(drawnSize.y)});
 }
 
 }  // namespace marlo::gui

@@ -15,10 +15,4 @@ std::string PicturePath(const std::string& applicationFolder, const std::string&
 /// @param size in the window's pixels.
 wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSize& size);
 
-/// A picture that covers a size from its left top corner, undistorted: it may be larger.
-/// @param drawnSize the size that it was drawn in.
-/// @param size in the window's pixels.
-wxBitmap LoadBackground(const wxWindow& window, const std::string& path, const wxSize& drawnSize,
-                        const wxSize& size);
-
 }  // namespace marlo::gui

@@ -4,6 +4,7 @@
 #include <wx/dcbuffer.h>
 #include <wx/settings.h>
 
+#include "app/gui/PicturePanel.h"
 #include "app/gui/TextConversion.h"
 #include "app/gui/TwipScale.h"
 #include "platform/Toolkit.h"
@@ -50,12 +51,15 @@ void StatusBox::Paint() {
     dc.DrawLine(area.GetTopLeft(), area.GetTopRight());
     if (GetPosition().x > 0)
         dc.DrawLine(area.GetTopLeft(), area.GetBottomLeft());
+    if (text.empty())
+        return;
     dc.SetFont(GetFont());
     dc.SetTextForeground(textColour);
     const int padding = DesignPixels(*this, kPadding);
-    const wxString fitting =
-        wxControl::Ellipsize(text, dc, wxELLIPSIZE_MIDDLE, area.width - 2 * padding);
-    dc.DrawText(fitting, padding, (area.height - dc.GetCharHeight()) / 2 + 1);
+    const int width = area.width - 2 * padding;
+    const wxSize size = dc.GetTextExtent(text);
+    DrawText(dc, size.x <= width ? text : wxControl::Ellipsize(text, dc, wxELLIPSIZE_MIDDLE, width),
+             padding, (area.height - size.y) / 2 + 1);
 }
 
 }  // namespace marlo::gui

@@ -8,9 +8,8 @@ namespace marlo::gui {
 
 namespace {
 
-// Where the right pane's picture is furthest from the window's colour.
-const wxColour kLightSearchBar(0xE0, 0xEB, 0xFB);
-const wxColour kDarkSearchBar(0x34, 0x41, 0x54);
+const wxColour kLightSearchBar(0xE6, 0xEF, 0xFC);
+const wxColour kDarkSearchBar(0x32, 0x3C, 0x4B);
 
 // The bands of a list are light in every theme, so its grey is no theme's.
 const wxColour kGreyedRow(0x6B, 0x6B, 0x6B);
@@ -39,12 +38,16 @@ Theme ReadTheme() {
     theme.isDark = wxSystemSettings::GetAppearance().IsUsingDarkBackground();
     theme.itemBackground = window;
     theme.item = ItemColour(window);
-    theme.itemOnSearchBar = ItemColour(theme.isDark ? kDarkSearchBar : kLightSearchBar);
     theme.disabledItem =
         Readable(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT), window, kTextContrast);
     theme.heading = theme.isDark ? wxColour(0xE6, 0xEE, 0xFA) : wxColour(0x1E, 0x2A, 0x3A);
     theme.label = theme.heading;
     theme.focusRing = theme.item;
+    // Nearly the window's: items with a background of their own must not stand out.
+    theme.menuPane = theme.isDark ? wxColour(0x2D, 0x2D, 0x2D) : wxColour(0xFE, 0xFE, 0xFF);
+    theme.searchBar = theme.isDark ? kDarkSearchBar : kLightSearchBar;
+    theme.itemOnSearchBar = ItemColour(theme.searchBar);
+    theme.rightPane = theme.isDark ? wxColour(0x2D, 0x2F, 0x33) : wxColour(0xF4, 0xF8, 0xFE);
     theme.paneFrame = theme.isDark ? wxColour(0x47, 0x4D, 0x57) : wxColour(0xC3, 0xD0, 0xE4);
     theme.greyedRow = kGreyedRow;
     return theme;

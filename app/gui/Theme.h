@@ -11,8 +11,11 @@ struct Theme {
     wxColour itemOnSearchBar;
     wxColour disabledItem;
     wxColour itemBackground;
-    wxColour heading;  ///< "Menu"
-    wxColour label;    ///< a text on a pane's picture
+    wxColour heading;    ///< "Menu"
+    wxColour label;      ///< a text on a pane's picture
+    wxColour menuPane;   ///< the ground of the menu pane
+    wxColour searchBar;  ///< the ground of the right pane, behind the search
+    wxColour rightPane;  ///< the same, below the search bar
     wxColour paneFrame;
     wxColour focusRing;
     wxColour greyedRow;  ///< on both bands of a list

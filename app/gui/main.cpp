@@ -35,7 +35,7 @@ class MarloApp final : public GuiApp {
 
     bool OnInit() override {
         GuiApp::OnInit();
-        (new Form1Window(application_, HelpSite()))->wxFrame::Show();
+        (new Form1Window(application_, HelpSite()))->Show();
         return true;
     }
 

@@ -24,11 +24,34 @@ AtkObject* AccessibleOf(void* control) {
 
 }  // namespace
 
+void StartReadingFonts() {
+    pango_cairo_font_map_get_default();  // starts the thread
+}
+
+void ShortenWayToArrows() {
+    GdkMonitor* const monitor = gdk_display_get_monitor(gdk_display_get_default(), 0);
+    if (monitor == nullptr || gdk_monitor_get_scale_factor(monitor) > 1)
+        return;  // the toolkit's own picture of it has one size
+    GtkCssProvider* const style = gtk_css_provider_new();
+    gtk_css_provider_load_from_data(
+        style,
+        "combobox arrow { -gtk-icon-source: -gtk-recolor(url(\"resource:///org/gtk/libgtk/icons/"
+        "16x16/status/pan-down-symbolic.symbolic.png\")); }",
+        -1, nullptr);
+    gtk_style_context_add_provider_for_screen(gdk_screen_get_default(), GTK_STYLE_PROVIDER(style),
+                                              GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+    g_object_unref(style);
+}
+
 double TextScale() {
     constexpr double usual = 96;  // dots per inch
     GdkScreen* const screen = gdk_screen_get_default();
     const double resolution = screen == nullptr ? usual : gdk_screen_get_resolution(screen);
     return resolution > 0 ? resolution / usual : 1;
+}
+
+void FlushDisplay() {
+    gdk_display_flush(gdk_display_get_default());
 }
 
 void SetAccessibleName(void* control, ControlRole role, const std::string& name) {

@@ -33,7 +33,7 @@ GuiTest::~GuiTest() {
 
 void GuiTest::Open() {
     window_ = new gui::Form1Window(application, "/help");
-    window_->wxFrame::Show();
+    window_->Show();
     window_->Bind(wxEVT_DESTROY, [this](wxWindowDestroyEvent& event) {
         event.Skip();
         if (event.GetEventObject() == window_)

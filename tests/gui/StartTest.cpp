@@ -166,7 +166,7 @@ TEST_F(StartTest, TheWindowTakesItsIconsFromTheApplicationFolder) {
     CloseWindow();
     AddPictures();
     Open();
-    EXPECT_TRUE(Window().GetIcons().GetIcon(48).IsOk());
+    EXPECT_TRUE(test::RunEventsUntil([&] { return Window().GetIcons().GetIcon(48).IsOk(); }));
 }
 
 TEST_F(StartTest, TheProgramForCsvFilesIsFoundOutAndItsIconShownTwice) {

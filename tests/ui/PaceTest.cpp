@@ -18,9 +18,9 @@ TEST(PaceTest, WhatComesSoonAfterIsNotDueAndDoesNotPutOffTheNext) {
     Pace pace;
     pace.IsDue(kStart);
     EXPECT_FALSE(pace.IsDue(kStart + milliseconds(1)));
-    EXPECT_FALSE(pace.IsDue(kStart + milliseconds(32)));
-    EXPECT_TRUE(pace.IsDue(kStart + milliseconds(33)));
-    EXPECT_FALSE(pace.IsDue(kStart + milliseconds(34)));
+    EXPECT_FALSE(pace.IsDue(kStart + milliseconds(65)));
+    EXPECT_TRUE(pace.IsDue(kStart + milliseconds(66)));
+    EXPECT_FALSE(pace.IsDue(kStart + milliseconds(67)));
 }
 
 }  // namespace
