@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <map>
+#include <string_view>
 #include <utility>
 #include <wx/app.h>
 #include <wx/checkbox.h>
@@ -80,6 +82,16 @@ wxPanel* CreatePane(wxWindow* parent, const wxString& name) {
     return pane;
 }
 
+/// The caption of a pane that is the widest, too.
+const char* LongestCaption(Pane pane) {
+    const char* longest = "";
+    for (const CommandItem& item : kCommandItems)
+        if (item.pane == pane &&
+            std::string_view(item.caption).size() > std::string_view(longest).size())
+            longest = item.caption;
+    return longest;
+}
+
 }  // namespace
 
 Form1Window::Form1Window(const Application& application, const std::string& helpSite)
@@ -148,12 +160,15 @@ void Form1Window::CreateCommandItems() {
         return kCommandItems.at(a).top < kCommandItems.at(b).top;
     });
     const wxFont font = ItemFont();
+    const auto sizeIn = [&](Pane pane) { return imgMenu_->TextSize(LongestCaption(pane), font); };
+    const std::map<Pane, wxSize> sizes{{Pane::Menu, sizeIn(Pane::Menu)},
+                                       {Pane::Right, sizeIn(Pane::Right)}};
     std::size_t icon = 0;
     for (const std::size_t i : order) {
         const CommandItem& item = kCommandItems.at(i);
         PicturePanel* const panel = item.pane == Pane::Menu ? imgMenu_ : imgRightPane_;
-        auto* const control =
-            new CommandItemControl(panel, i, item.caption, font, item.hasWindowBackground);
+        auto* const control = new CommandItemControl(panel, i, item.caption, font,
+                                                     sizes.at(item.pane), item.hasWindowBackground);
         control->onClick = [this, i] { form_.cmdButtons_Click(static_cast<int>(i)); };
         control->onMouseMove = [this, i] { form_.cmdbuttons_MouseMove(i); };
         cmdbuttons_.at(i) = control;
@@ -193,14 +208,8 @@ void Form1Window::CreateSearchControls() {
 /// smaller than the user's other texts; where that is too large, the layout makes room.
 wxFont Form1Window::ItemFont() const {
     const wxFont usual = GetFont();
-    wxClientDC dc(background_);
-    dc.SetFont(usual);
-    std::string longest;
-    for (const CommandItem& item : kCommandItems)
-        if (item.pane == Pane::Menu && std::string_view(item.caption).size() > longest.size())
-            longest = item.caption;
-    const double fitting =
-        static_cast<double>(scale_.Pixels(kCommandItemWidth)) / dc.GetTextExtent(longest).x;
+    const int widest = imgMenu_->TextSize(LongestCaption(Pane::Menu), usual).x;
+    const double fitting = static_cast<double>(scale_.Pixels(kCommandItemWidth)) / widest;
     return usual.Scaled(static_cast<float>(std::clamp(fitting, kSmallestItemFont, 1.0)));
 }
 

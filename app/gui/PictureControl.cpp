@@ -67,11 +67,13 @@ void PictureControl::Click() {
 
 CommandItemControl::CommandItemControl(PicturePanel* parent, std::size_t index,
                                        const wxString& caption, const wxFont& font,
-                                       bool hasWindowBackground)
+                                       const wxSize& naturalSize, bool hasWindowBackground)
     : PictureControl(parent, wxString::Format("cmdbuttons(%zu)", index)),
+      caption_(caption),
       font_(font),
+      naturalSize_(naturalSize),
       hasWindowBackground_(hasWindowBackground) {
-    SetCaption(caption);
+    SetAccessibleLabel(caption);
 }
 
 void CommandItemControl::SetCaption(const wxString& caption) {

@@ -35,14 +35,16 @@ class PictureControl : public wxWindow {
 /// A command item: a caption like a link's.
 class CommandItemControl final : public PictureControl {
   public:
+    /// @param naturalSize the size that captions of its kind need, as far as it is known: measuring
+    ///        one takes longer than making the control.
     /// @param hasWindowBackground whether it hides the picture.
     CommandItemControl(PicturePanel* parent, std::size_t index, const wxString& caption,
-                       const wxFont& font, bool hasWindowBackground);
+                       const wxFont& font, const wxSize& naturalSize, bool hasWindowBackground);
 
     void SetCaption(const wxString& caption);
     void SetHovered(bool isHovered);
     void SetColours(const wxColour& enabled, const wxColour& disabled, const wxColour& background);
-    /// The size that the caption needs.
+    /// A size that is enough for the caption.
     wxSize NaturalSize() const { return naturalSize_; }
 
     const wxString& Caption() const { return caption_; }
