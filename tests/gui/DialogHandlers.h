@@ -18,6 +18,8 @@ class DialogHandlers final : public wxModalDialogHook {
     DialogHandlers() { Register(); }
     DialogHandlers(const DialogHandlers&) = delete;
     DialogHandlers& operator=(const DialogHandlers&) = delete;
+    DialogHandlers(DialogHandlers&&) = delete;
+    DialogHandlers& operator=(DialogHandlers&&) = delete;
     ~DialogHandlers() override;
 
     using Handler = std::function<void(wxDialog&)>;

@@ -1,6 +1,7 @@
 #include "tests/gui/Display.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <gtk/gtk.h>
 #include <memory>
 #include <stdexcept>
@@ -64,8 +65,8 @@ wxImage PictureOf(wxWindow& control, const wxRect& area) {
         &g_object_unref);
     if (!pixels)
         throw std::runtime_error("there is no such part of the screen");
-    const int channels = gdk_pixbuf_get_n_channels(pixels.get());
-    const int stride = gdk_pixbuf_get_rowstride(pixels.get());
+    const std::ptrdiff_t channels = gdk_pixbuf_get_n_channels(pixels.get());
+    const std::ptrdiff_t stride = gdk_pixbuf_get_rowstride(pixels.get());
     const unsigned char* const bytes = gdk_pixbuf_read_pixels(pixels.get());
     wxImage picture(area.GetSize(), false);
     for (int y = 0; y < area.height; ++y)
@@ -86,7 +87,8 @@ wxColour ColourAt(wxWindow& control, const wxPoint& point) {
 }
 
 bool AreEqual(const wxImage& a, const wxImage& b) {
-    const auto size = static_cast<std::size_t>(a.GetWidth() * a.GetHeight() * 3);
+    const auto size = std::size_t{3} * static_cast<std::size_t>(a.GetWidth()) *
+                      static_cast<std::size_t>(a.GetHeight());
     return a.GetSize() == b.GetSize() && std::equal(a.GetData(), a.GetData() + size, b.GetData());
 }
 

@@ -23,6 +23,8 @@ class EventLoop {
     EventLoop() : loop_(g_main_loop_new(nullptr, FALSE)) {}
     EventLoop(const EventLoop&) = delete;
     EventLoop& operator=(const EventLoop&) = delete;
+    EventLoop(EventLoop&&) = delete;
+    EventLoop& operator=(EventLoop&&) = delete;
     ~EventLoop() { g_main_loop_unref(loop_); }
 
     void Run() { g_main_loop_run(loop_); }

@@ -18,9 +18,15 @@ namespace marlo::test {
 
 /// A test of the real window, driven by clicks and keys, on an application in a temporary folder.
 class GuiTest : public ApplicationTest {
+  public:
+    GuiTest(const GuiTest&) = delete;
+    GuiTest& operator=(const GuiTest&) = delete;
+    GuiTest(GuiTest&&) = delete;
+    GuiTest& operator=(GuiTest&&) = delete;
+    ~GuiTest() override;
+
   protected:
     GuiTest();
-    ~GuiTest() override;
 
     /// Opens the window and waits until it is there.
     void Open();
