@@ -44,7 +44,7 @@ std::string PicturePath(const std::string& applicationFolder, const std::string&
 
 wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSize& size) {
     std::error_code error;
-    if (!platform::IsFile(path, error))
+    if (size.x < 1 || size.y < 1 || !platform::IsFile(path, error))
         return {};
     const wxLogNull quiet;  // a picture that cannot be shown is left out
     const wxSize dots = Dots(window, size);
