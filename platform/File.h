@@ -55,8 +55,10 @@ class File {
     void Flush(std::error_code& error);
 
   private:
+    struct Mode;  ///< how a file is opened, in the system's terms
+
     explicit File(int handle) : handle_(handle) {}
-    static File Open(const std::string& path, int flags, std::error_code& error);
+    static File Open(const std::string& path, const Mode& mode, std::error_code& error);
     void Close() noexcept;
 
     int handle_ = -1;

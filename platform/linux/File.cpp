@@ -50,6 +50,10 @@ std::error_code WriteAll(std::string_view bytes, WriteSome writeSome) {
 
 }  // namespace
 
+struct File::Mode {
+    int flags;
+};
+
 File::File(File&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
 
 File& File::operator=(File&& other) noexcept {
@@ -69,32 +73,32 @@ void File::Close() noexcept {
         close(std::exchange(handle_, -1));
 }
 
-File File::Open(const std::string& path, int flags, std::error_code& error) {
+File File::Open(const std::string& path, const Mode& mode, std::error_code& error) {
     if (path.find('\0') != std::string::npos) {
         error = std::make_error_code(std::errc::invalid_argument);
         return {};
     }
     // Without O_NONBLOCK, opening a pipe would wait for its other end.
-    File file(open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, kNewFileMode));
+    File file(open(path.c_str(), mode.flags | O_CLOEXEC | O_NONBLOCK, kNewFileMode));
     error = file.handle_ < 0 ? PosixError() : CheckRegular(file.handle_);
     return error ? File() : std::move(file);
 }
 
 File File::OpenForReading(const std::string& path, std::error_code& error) {
-    return Open(path, O_RDONLY, error);
+    return Open(path, {O_RDONLY}, error);
 }
 
 File File::OpenForUpdating(const std::string& path, std::error_code& error) {
-    return Open(path, O_RDWR | O_CREAT, error);
+    return Open(path, {O_RDWR | O_CREAT}, error);
 }
 
 File File::OpenForAppending(const std::string& path, std::error_code& error) {
-    return Open(path, O_WRONLY | O_CREAT | O_APPEND, error);
+    return Open(path, {O_WRONLY | O_CREAT | O_APPEND}, error);
 }
 
 File File::OpenExclusively(const std::string& path, std::error_code& error) {
     for (;;) {
-        File file = Open(path, O_WRONLY | O_CREAT | O_NOFOLLOW, error);
+        File file = Open(path, {O_WRONLY | O_CREAT | O_NOFOLLOW}, error);
         if (error)
             return {};
         if (flock(file.handle_, LOCK_EX | LOCK_NB) != 0) {
