@@ -11,8 +11,8 @@ namespace marlo::gui {
 /// folder, or beside the program where that has none.
 std::string PicturePath(const std::string& applicationFolder, const std::string& name);
 
-/// A picture file in a size, sharp on the window's screen; invalid when there is no such file, or no
-/// such size.
+/// A picture file in a size, sharp on the window's screen; invalid when there is no such file, or
+/// no such size.
 /// @param size in the window's pixels.
 wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSize& size);
 
