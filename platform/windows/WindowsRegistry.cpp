@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <string_view>
 #include <vector>
-#include <windows.h>
+
+#include "platform/windows/System.h"
 
 namespace marlo::platform {
 

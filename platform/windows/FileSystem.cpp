@@ -1,0 +1,205 @@
+#include "platform/FileSystem.h"
+
+#include <memory>
+
+#include "platform/windows/System.h"
+#include "platform/windows/SystemTime.h"
+#include "platform/windows/Wide.h"
+#include "platform/windows/WindowsError.h"
+
+namespace marlo::platform {
+
+namespace {
+
+struct OpenFolder {
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    std::wstring path;
+};
+
+/// The attributes of what is at `path`. A path that leads nowhere is no error.
+std::optional<WIN32_FILE_ATTRIBUTE_DATA> StatusOf(const std::string& path, std::error_code& error) {
+    error.clear();
+    if (path.find('\0') != std::string::npos) {
+        error = std::make_error_code(std::errc::invalid_argument);
+        return std::nullopt;
+    }
+    WIN32_FILE_ATTRIBUTE_DATA status{};
+    if (GetFileAttributesExW(WidePath(path).c_str(), GetFileExInfoStandard, &status) != FALSE)
+        return status;
+    error = LastWindowsError();
+    if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory)
+        error.clear();
+    return std::nullopt;
+}
+
+bool IsDirectory(DWORD attributes) {
+    return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+bool IsSeparator(char c) {
+    return c == '\\' || c == '/';
+}
+
+}  // namespace
+
+Folder Folder::Open(const std::string& path, std::error_code& error) {
+    error.clear();
+    auto folder = std::make_unique<OpenFolder>();
+    folder->path = WidePath(path);
+    folder->handle = CreateFileW(folder->path.c_str(), FILE_LIST_DIRECTORY,
+                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                 OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (folder->handle == INVALID_HANDLE_VALUE) {
+        error = LastWindowsError();
+        return Folder(nullptr);
+    }
+    BY_HANDLE_FILE_INFORMATION status{};
+    if (GetFileInformationByHandle(folder->handle, &status) == FALSE)
+        error = LastWindowsError();
+    else if (!IsDirectory(status.dwFileAttributes))
+        error = std::make_error_code(std::errc::not_a_directory);
+    return Folder(folder.release());
+}
+
+Folder::Folder(Folder&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
+
+Folder& Folder::operator=(Folder&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    return *this;
+}
+
+Folder::~Folder() {
+    const std::unique_ptr<OpenFolder> folder(static_cast<OpenFolder*>(handle_));
+    if (folder)
+        CloseHandle(folder->handle);
+}
+
+FileIdentity Folder::Identity(std::error_code& error) const {
+    BY_HANDLE_FILE_INFORMATION status{};
+    const bool isKnown =
+        GetFileInformationByHandle(static_cast<OpenFolder*>(handle_)->handle, &status) != FALSE;
+    error = isKnown ? std::error_code() : LastWindowsError();
+    return {status.dwVolumeSerialNumber,
+            std::uint64_t{status.nFileIndexHigh} << 32 | status.nFileIndexLow};
+}
+
+FolderEntries Folder::Entries(std::error_code& error) const {
+    error.clear();
+    FolderEntries entries;
+    std::wstring pattern = static_cast<OpenFolder*>(handle_)->path;
+    if (!pattern.ends_with(L'\\') && !pattern.ends_with(L'/'))
+        pattern += L'\\';
+    pattern += L'*';
+    WIN32_FIND_DATAW entry{};
+    const HANDLE search = FindFirstFileW(pattern.c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE) {
+        // The root of a drive has no "." entry, so an empty one has none at all.
+        if (GetLastError() != ERROR_FILE_NOT_FOUND)
+            error = LastWindowsError();
+        return entries;
+    }
+    do {
+        const std::wstring_view name = static_cast<const wchar_t*>(entry.cFileName);
+        if (name == L"." || name == L"..")
+            continue;
+        const bool isLink = (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+        if (IsDirectory(entry.dwFileAttributes))
+            entries.folders.push_back(NarrowText(name));
+        else
+            entries.files.push_back(
+                {NarrowText(name), isLink ? FileKind::Unknown : FileKind::Regular});
+    } while (FindNextFileW(search, &entry) != FALSE);
+    if (GetLastError() != ERROR_NO_MORE_FILES)
+        error = LastWindowsError();
+    FindClose(search);
+    return entries;
+}
+
+std::string JoinPath(std::string_view folder, std::string_view name) {
+    std::string path(folder);
+    if (path.empty() || !IsSeparator(path.back()))
+        path += '\\';
+    return path.append(name);
+}
+
+bool IsFile(const std::string& path, std::error_code& error) {
+    const auto status = StatusOf(path, error);
+    return status && !IsDirectory(status->dwFileAttributes);
+}
+
+bool IsFolder(const std::string& path, std::error_code& error) {
+    const auto status = StatusOf(path, error);
+    return status && IsDirectory(status->dwFileAttributes);
+}
+
+std::tm LastModified(const std::string& path, std::error_code& error) {
+    const auto status = StatusOf(path, error);
+    if (!status || IsDirectory(status->dwFileAttributes)) {
+        if (!error)
+            error = std::make_error_code(std::errc::no_such_file_or_directory);
+        return {};
+    }
+    SYSTEMTIME world{};
+    SYSTEMTIME local{};
+    // With the time zone's rules of that date, as file managers show it.
+    if (FileTimeToSystemTime(&status->ftLastWriteTime, &world) == FALSE ||
+        SystemTimeToTzSpecificLocalTime(nullptr, &world, &local) == FALSE) {
+        error = LastWindowsError();
+        return {};
+    }
+    return MomentOf(local);
+}
+
+void RemoveFile(const std::string& path, std::error_code& error) {
+    error = DeleteFileW(WidePath(path).c_str()) != FALSE ? std::error_code() : LastWindowsError();
+}
+
+void MoveIntoPlace(const std::string& from, const std::string& to, std::error_code& error) {
+    const bool isMoved = MoveFileExW(WidePath(from).c_str(), WidePath(to).c_str(),
+                                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+    error = isMoved ? std::error_code() : LastWindowsError();
+}
+
+std::optional<std::string> ParentPath(const std::string& path) {
+    const std::size_t separator = path.find_last_of("\\/");
+    if (separator == std::string::npos)
+        return std::nullopt;
+    // The root of a drive keeps its separator; without it the path means another folder.
+    const bool isRoot = separator == 0 || (separator == 2 && path[1] == ':');
+    return path.substr(0, isRoot ? separator + 1 : separator);
+}
+
+std::string FullPath(const std::string& path, std::error_code& error) {
+    error.clear();
+    const std::wstring wide = WideText(path);
+    const DWORD size = GetFullPathNameW(wide.c_str(), 0, nullptr, nullptr);
+    std::wstring full(size, L'\0');
+    if (size != 0)
+        full.resize(GetFullPathNameW(wide.c_str(), size, full.data(), nullptr));
+    if (full.empty()) {
+        error = LastWindowsError();
+        return path;
+    }
+    const bool isRoot = full.size() <= 3;
+    if (!isRoot && full.ends_with(L'\\'))
+        full.pop_back();
+    return NarrowText(full);
+}
+
+std::string ProgramFolder() {
+    std::wstring program(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD length =
+            GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
+        if (length == 0)
+            return ".";
+        if (length < program.size()) {
+            program.resize(length);
+            break;
+        }
+        program.resize(2 * program.size());
+    }
+    return NarrowText(std::wstring_view(program).substr(0, program.rfind(L'\\')));
+}
+
+}  // namespace marlo::platform

@@ -1,0 +1,10 @@
+#pragma once
+
+// The system's headers, in the order that they need.
+// clang-format off
+#include <windows.h>
+#include <shellapi.h>
+// clang-format on
+
+// Names of ours that the headers would replace.
+#undef ShellExecute

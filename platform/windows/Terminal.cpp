@@ -1,0 +1,87 @@
+#include "platform/Terminal.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <string_view>
+
+#include "platform/windows/System.h"
+
+namespace marlo::platform {
+
+namespace {
+
+constexpr int kUsualWidth = 80;
+
+std::atomic<bool> interruptNoted = false;
+
+/// Called on a thread of its own.
+BOOL WINAPI NoteInterrupt(DWORD event) {
+    const bool isFirst =
+        (event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT) && !interruptNoted.exchange(true);
+    return isFirst ? TRUE : FALSE;
+}
+
+HANDLE HandleOf(Stream stream) {
+    switch (stream) {
+        case Stream::In:
+            return GetStdHandle(STD_INPUT_HANDLE);
+        case Stream::Out:
+            return GetStdHandle(STD_OUTPUT_HANDLE);
+        case Stream::Error:
+            break;
+    }
+    return GetStdHandle(STD_ERROR_HANDLE);
+}
+
+}  // namespace
+
+bool IsTerminal(Stream stream) {
+    DWORD mode = 0;
+    return GetConsoleMode(HandleOf(stream), &mode) != FALSE;
+}
+
+bool ShowsColours(Stream stream) {
+    const char* const unwanted = std::getenv("NO_COLOR");
+    if (unwanted != nullptr && *unwanted != '\0')
+        return false;
+    // Consoles since Windows 10 know the sequences, once they are asked to.
+    DWORD mode = 0;
+    const HANDLE handle = HandleOf(stream);
+    return GetConsoleMode(handle, &mode) != FALSE &&
+           SetConsoleMode(handle, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != FALSE;
+}
+
+int TerminalWidth(Stream stream) {
+    CONSOLE_SCREEN_BUFFER_INFO info{};
+    if (GetConsoleScreenBufferInfo(HandleOf(stream), &info) == FALSE)
+        return kUsualWidth;
+    return info.srWindow.Right - info.srWindow.Left + 1;
+}
+
+void NoteInterrupts() {
+    SetConsoleCtrlHandler(NoteInterrupt, TRUE);
+}
+
+bool Interrupted() {
+    return interruptNoted;
+}
+
+std::optional<std::string> ReadLine() {
+    std::string line;
+    for (;;) {
+        char c = 0;
+        DWORD count = 0;
+        const bool isRead =
+            !interruptNoted && ReadFile(HandleOf(Stream::In), &c, 1, &count, nullptr) != FALSE;
+        if (!isRead || count == 0 || interruptNoted)
+            return std::nullopt;
+        if (c == '\n') {
+            if (line.ends_with('\r'))
+                line.pop_back();
+            return line;
+        }
+        line += c;
+    }
+}
+
+}  // namespace marlo::platform

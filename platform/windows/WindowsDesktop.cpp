@@ -1,0 +1,63 @@
+#include "platform/windows/WindowsDesktop.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/windows/System.h"
+#include "platform/windows/Wide.h"
+#include "platform/windows/WindowsError.h"
+
+namespace marlo::platform {
+
+namespace {
+
+std::string ExtensionOf(const std::string& path) {
+    const std::size_t mark = path.find_last_of("\\/.");
+    return mark == std::string::npos || path[mark] != '.' ? "" : path.substr(mark);
+}
+
+/// What the shell says of files with such a name, whether there is one or not.
+std::string DescriptionOf(const std::string& name) {
+    SHFILEINFOA info{};
+    const DWORD_PTR answer = SHGetFileInfoA(name.c_str(), FILE_ATTRIBUTE_NORMAL, &info, sizeof info,
+                                            SHGFI_TYPENAME | SHGFI_USEFILEATTRIBUTES);
+    return answer == 0 ? "" : static_cast<const char*>(info.szTypeName);
+}
+
+}  // namespace
+
+std::string WindowsDesktop::FileTypeDescription(const std::string& path, FileKind kind,
+                                                std::error_code& error) const {
+    error.clear();
+    if (kind != FileKind::Regular && !IsFile(path, error))
+        return {};
+    const std::string extension = ExtensionOf(path);
+    const auto known = descriptions_.find(extension);
+    if (known != descriptions_.end())
+        return known->second;
+    return descriptions_.emplace(extension, DescriptionOf("file" + extension)).first->second;
+}
+
+std::optional<std::string> WindowsDesktop::ProgramForExtension(
+    const std::string& /*extension*/) const {
+    return std::nullopt;
+}
+
+std::optional<ShellIcon> WindowsDesktop::SmallIcon(const std::string& path) const {
+    return ShellIcon{path};
+}
+
+int WindowsDesktop::ShellExecute(const ShellRequest& request) const {
+    const HINSTANCE answer =
+        ShellExecuteA(nullptr, request.verb.c_str(), request.file.c_str(),
+                      request.parameters.c_str(), request.folder.c_str(), request.showState);
+    return static_cast<int>(reinterpret_cast<INT_PTR>(answer));
+}
+
+std::string WindowsDesktop::ShortPath(const std::string& path) const {
+    std::array<char, MAX_PATH> buffer{};
+    const DWORD length = GetShortPathNameA(path.c_str(), buffer.data(), MAX_PATH);
+    return {buffer.data(), std::min<std::size_t>(length, buffer.size())};
+}
+
+}  // namespace marlo::platform
