@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "platform/FileSystem.h"
 
@@ -21,10 +22,13 @@ struct ShellRequest {
     static constexpr int kShowNormal = 1;
 };
 
-/// A file's icon, as far as it can be told without drawing it: a name in the desktop's icon theme,
-/// or the full path of a picture file.
+/// A file's icon: drawn where the shell does that, else a name in the desktop's icon theme or the
+/// full path of a picture file.
 struct ShellIcon {
-    std::string name;
+    std::string name{};
+    int width = 0;  ///< of the drawn icon, in dots
+    int height = 0;
+    std::vector<unsigned char> dots{};  ///< row by row: red, green, blue and opacity of each
 };
 
 /// The shell's answers up to this one are failures.

@@ -16,9 +16,7 @@ class GuiApp : public wxApp {
         platform::ShortenWayToArrows();
         SetAppName("marlo");
         SetAppDisplayName("Marlo");
-        wxImage::AddHandler(new wxGIFHandler);
-        wxImage::AddHandler(new wxICOHandler);
-        wxImage::AddHandler(new wxPNGHandler);
+        wxInitAllImageHandlers();
         return true;
     }
 

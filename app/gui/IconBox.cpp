@@ -1,7 +1,7 @@
 #include "app/gui/IconBox.h"
 
-#include <utility>
 #include <wx/artprov.h>
+#include <wx/image.h>
 #include <wx/window.h>
 
 #include "app/gui/Pictures.h"
@@ -14,10 +14,22 @@ namespace {
 
 constexpr int kSmallIconSize = 16;  // design pixels
 
+wxBitmap PictureOf(const platform::ShellIcon& icon, const wxSize& size) {
+    wxImage picture(icon.width, icon.height, false);
+    picture.InitAlpha();
+    const unsigned char* dot = icon.dots.data();
+    for (int y = 0; y < icon.height; ++y)
+        for (int x = 0; x < icon.width; ++x, dot += 4) {
+            picture.SetRGB(x, y, dot[0], dot[1], dot[2]);
+            picture.SetAlpha(x, y, dot[3]);
+        }
+    return {picture.Scale(size.x, size.y, wxIMAGE_QUALITY_HIGH)};
+}
+
 }  // namespace
 
 void IconBox::Clear() {
-    picture_ = {};
+    picture_ = wxBitmap();
     if (onChange)
         onChange();
 }
@@ -25,10 +37,13 @@ void IconBox::Clear() {
 void IconBox::Draw(const platform::ShellIcon& icon) {
     const int side = DesignPixels(window_, kSmallIconSize);
     const wxSize size(side, side);
-    picture_ = icon.name.starts_with('/')
-                   ? LoadPicture(window_, icon.name, size)
-                   : wxArtProvider::GetBitmapBundle(Shown(icon.name), wxART_MENU, size)
-                         .GetBitmapFor(&window_);
+    if (!icon.dots.empty())
+        picture_ = PictureOf(icon, size);
+    else if (icon.name.starts_with('/'))
+        picture_ = LoadPicture(window_, icon.name, size);
+    else
+        picture_ = wxArtProvider::GetBitmapBundle(Shown(icon.name), wxART_MENU, size)
+                       .GetBitmapFor(&window_);
     if (onChange)
         onChange();
 }

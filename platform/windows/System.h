@@ -3,6 +3,7 @@
 // The system's headers, in the order that they need.
 // clang-format off
 #include <windows.h>
+#include <commctrl.h>
 #include <shellapi.h>
 // clang-format on
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/windows/ShellIcons.h"
 #include "platform/windows/System.h"
 #include "platform/windows/Wide.h"
 #include "platform/windows/WindowsError.h"
@@ -44,7 +45,7 @@ std::optional<std::string> WindowsDesktop::ProgramForExtension(
 }
 
 std::optional<ShellIcon> WindowsDesktop::SmallIcon(const std::string& path) const {
-    return ShellIcon{path};
+    return DrawnSmallIcon(path);
 }
 
 int WindowsDesktop::ShellExecute(const ShellRequest& request) const {
