@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/AnsiCodePage.h"
 #include "platform/windows/System.h"
 
 namespace marlo::platform {
@@ -25,40 +26,14 @@ HKEY HandleOf(RegistryKey key) {
     }
 }
 
-/// The ANSI code page of the system, whichever one the program itself has.
-UINT SystemCodePage() {
-    DWORD page = CP_ACP;
-    GetLocaleInfoA(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
-                   reinterpret_cast<LPSTR>(&page), sizeof page);
-    return page;
-}
-
-/// @return nothing when `text` is not in the code page `from`, or does not fit into `to`.
-std::string Convert(std::string_view text, UINT from, UINT to) {
-    std::wstring wide(text.size(), L'\0');
-    const int wideLength =
-        MultiByteToWideChar(from, MB_ERR_INVALID_CHARS, text.data(), static_cast<int>(text.size()),
-                            wide.data(), static_cast<int>(wide.size()));
-    std::string converted(static_cast<std::size_t>(wideLength) * 4, '\0');
-    BOOL isReplaced = FALSE;
-    const bool toUtf8 = to == CP_UTF8;
-    const int length = WideCharToMultiByte(
-        to, toUtf8 ? 0 : WC_NO_BEST_FIT_CHARS, wide.data(), wideLength, converted.data(),
-        static_cast<int>(converted.size()), nullptr, toUtf8 ? nullptr : &isReplaced);
-    converted.resize(isReplaced != FALSE ? 0 : static_cast<std::size_t>(length));
-    return converted;
-}
-
 /// A text from Windows as the program's names are.
 std::string NameFromSystem(std::string_view text) {
-    std::string name = GetACP() == CP_UTF8 ? Convert(text, CP_UTF8, SystemCodePage()) : "";
-    return name.empty() ? std::string(text) : name;
+    return GetACP() == CP_UTF8 ? NameFromUtf8(text) : std::string(text);
 }
 
 /// A name as Windows takes it from this program.
 std::string SystemFromName(const std::string& name) {
-    const bool isUtf8 = !Convert(name, CP_UTF8, CP_UTF8).empty();
-    return GetACP() != CP_UTF8 || isUtf8 ? name : Convert(name, SystemCodePage(), CP_UTF8);
+    return GetACP() == CP_UTF8 ? Utf8FromName(name) : name;
 }
 
 bool IsBare(HKEY key) {
