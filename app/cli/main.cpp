@@ -31,6 +31,8 @@ constexpr const char* kVersion = "marlo-cli " MARLO_VERSION;
 class CommandLine {
   public:
     CommandLine() {
+        // A path may begin with a slash on every system.
+        app_.allow_windows_style_options(false);
         app_.require_subcommand(1);
         app_.fallthrough();
         app_.set_version_flag("--version", kVersion);

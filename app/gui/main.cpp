@@ -85,6 +85,8 @@ int RunCommandLine(int argc, char** argv) {
         "Which plug-ins do your Cubase SX projects use, and which are installed "
         "here?",
         "marlo");
+    // A path may begin with a slash on every system.
+    commandLine.allow_windows_style_options(false);
     commandLine.set_version_flag("--version", "marlo " MARLO_VERSION);
     commandLine
         .add_option("--app-folder", options.applicationFolder,

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Program.h"
+#include "tests/support/System.h"
 #include "tests/support/TempFolder.h"
 #include "tools/ProjectWriter.h"
 
@@ -20,10 +21,10 @@ class CliTest : public testing::Test {
         folder.MakeFolder("app/resultfiles");
         folder.MakeFolder("songs");
         // A machine without Wine or associations, until a test makes some.
-        setenv("WINEPREFIX", folder.Path("prefix").c_str(), 1);
+        SetVariable("WINEPREFIX", folder.Path("prefix"));
         for (const char* variable : {"XDG_DATA_HOME", "XDG_DATA_DIRS", "XDG_CONFIG_HOME"})
-            setenv(variable, folder.Path("data").c_str(), 1);
-        setenv("XDG_CONFIG_DIRS", folder.Path("data").c_str(), 1);
+            SetVariable(variable, folder.Path("data"));
+        SetVariable("XDG_CONFIG_DIRS", folder.Path("data"));
     }
 
     /// The words that start the program with `arguments` on the test's application folder.

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/cli/CliTest.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -27,8 +28,8 @@ class InstalledCommandTest : public test::CliTest {
         folder.Write(name + "/system.reg", kPrefixWithEffect);
         folder.MakeFolder(name + "/dosdevices");
         folder.Write(name + "/drive_c/vst/Réverb.dll", "");
-        std::filesystem::create_directory_symlink("../drive_c",
-                                                  folder.Path(name + "/dosdevices/c:"));
+        if (!test::MakeLink("../drive_c", folder.Path(name + "/dosdevices/c:")))
+            GTEST_SKIP() << test::kNoLinks;
     }
 
     std::string PrefixList(const std::string& name) const {
@@ -92,6 +93,8 @@ TEST_F(InstalledCommandTest, TheProgressHasTwoPhases) {
 }
 
 TEST_F(InstalledCommandTest, TheInterruptKeyCancelsAndKeepsWhatWasFound) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
     for (int i = 0; i < 10000; ++i)
         std::filesystem::create_directories(folder.Path("vst/" + std::to_string(i) + "/sub"));
     Marlo({"folders", "add", folder.Path("vst")});

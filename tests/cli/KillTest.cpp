@@ -1,10 +1,9 @@
 #include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <random>
 #include <set>
 #include <string>
-#include <unistd.h>
+#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -70,11 +69,11 @@ TEST_F(KillTest, AKillAtAnyMomentLeavesEveryResultFileWhole) {
         const bool duringWriting = kill % 4 < 2;
         while (duringWriting && program.IsRunning() && !std::filesystem::exists(NewVersion()) &&
                LastWritten() == lastWritten)
-            usleep(200);
+            std::this_thread::sleep_for(std::chrono::microseconds(200));
         const auto most = std::chrono::duration_cast<std::chrono::microseconds>(
             duringWriting ? duration / 4 : duration);
-        usleep(static_cast<useconds_t>(random() % static_cast<unsigned long>(most.count())));
-        program.Send(SIGKILL);
+        std::this_thread::sleep_for(most * (random() % 1000) / 1000);
+        program.Kill();
         program.Wait();
         for (std::size_t i = 0; i < kFiles.size(); ++i) {
             const std::string text = Result(kFiles[i]);

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/cli/CliTest.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -85,17 +86,15 @@ TEST_F(PluginsCommandTest, AFileThatCannotBeScannedIsSaidAndTheOthersArePrinted)
 
 TEST_F(PluginsCommandTest, ARelativePathIsListedAsASearchWouldListIt) {
     const std::string path = AddProject("a.cpr", {{.name = "Delay"}});
-    const std::string command =
-        "cd '" + Songs() + "' && " + MARLO_CLI + " plugins ./a.cpr --format csv";
-    EXPECT_EQ(test::Run({"/bin/sh", "-c", command}).out,
+    EXPECT_EQ(test::Run({MARLO_CLI, "plugins", "./a.cpr", "--format", "csv"}, Songs()).out,
               "\"" + path + "\",\"Delay\",\"VST    \",\"On\"\r\n");
 }
 
 TEST_F(PluginsCommandTest, AFileNamedInSquareBracketsIsOneFile) {
     AddProject("[a,b]", {{.name = "Delay"}});
-    const std::string command =
-        "cd '" + Songs() + "' && " + MARLO_CLI + " plugins '[a,b]' --format csv";
-    EXPECT_NE(test::Run({"/bin/sh", "-c", command}).out.find("[a,b]"), std::string::npos);
+    EXPECT_NE(
+        test::Run({MARLO_CLI, "plugins", "[a,b]", "--format", "csv"}, Songs()).out.find("[a,b]"),
+        std::string::npos);
 }
 
 TEST_F(PluginsCommandTest, NoResultFileIsTouched) {
@@ -112,6 +111,8 @@ TEST_F(PluginsCommandTest, TheSameFileTwiceIsListedTwiceAndMergedOnce) {
 }
 
 TEST_F(PluginsCommandTest, NothingFromAFileReachesATerminalRaw) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
     const std::string path =
         AddProject("a\x1b[31m.cpr", {{.name = "evil\x1b[2J\x1b]0;t\x07\n\xC2\x9B\x7F"}});
     for (const std::string format : {"table", "csv", "json"}) {
@@ -125,6 +126,8 @@ TEST_F(PluginsCommandTest, NothingFromAFileReachesATerminalRaw) {
 }
 
 TEST_F(PluginsCommandTest, OutputThatCannotBeWrittenIsAFailure) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
     const std::string command = std::string(MARLO_CLI) + " plugins '" + AddUsual() + "' >/dev/full";
     const auto result = test::Run({"/bin/sh", "-c", command});
     EXPECT_EQ(result.exitCode, 1);

@@ -1,14 +1,12 @@
-#include <array>
-#include <fcntl.h>
 #include <filesystem>
 #include <string>
-#include <sys/stat.h>
 #include <vector>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include "tests/cli/CliTest.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -20,7 +18,7 @@ using Json = nlohmann::ordered_json;
 class ReportCommandTest : public test::CliTest {
   protected:
     ReportCommandTest() {
-        setenv("TZ", "UTC0", 1);
+        test::SetVariable("TZ", "UTC0");
         WriteResult("installedplugins.csv",
                     "\"DirectX\",\"DX Echo\",\"<empty>\"\r\n"
                     "\"VST\",\"R\xE9verb\",\"/vst/R\xC3\xA9verb.dll\"\r\n"
@@ -29,9 +27,7 @@ class ReportCommandTest : public test::CliTest {
                     "\"Tape Delay\",\"VST\",\"Off\"\r\n\"R\xE9verb\",\"VST\",\"On\"\r\n"
                     "\"DX Echo\",\"DirectX\",\"On\"\r\n");
         project = folder.Write("songs/a.cpr", "");
-        const timespec time{1162050312, 0};
-        const std::array<timespec, 2> times = {time, time};
-        EXPECT_EQ(utimensat(AT_FDCWD, project.c_str(), times.data(), 0), 0);
+        folder.SetLastChange("songs/a.cpr", 1162050312);
         WriteResult("fln.csv", "\"" + project + "\",\"Tape Delay\",\"VST    \",\"Off\"\r\n\"" +
                                    project + "\",\"R\xE9verb\",\"VST    \",\"On\"\r\n");
     }
@@ -42,8 +38,8 @@ class ReportCommandTest : public test::CliTest {
 
     /// Starts the program in a terminal of a kind, without a wish as to colours.
     std::string InTerminal(const std::vector<std::string>& arguments, const char* type) const {
-        setenv("TERM", type, 1);
-        unsetenv("NO_COLOR");
+        test::SetVariable("TERM", type);
+        test::ClearVariable("NO_COLOR");
         auto program = Program::StartInTerminal(CommandLine(arguments));
         std::string shown = program.ReadAll();
         EXPECT_EQ(program.Wait(), 0);
@@ -136,6 +132,8 @@ TEST_F(ReportCommandTest, ThePlaceholderIsForPeopleOnly) {
 }
 
 TEST_F(ReportCommandTest, GreyedRowsAreDimmedOnAColourTerminalAndMarkedOnAnother) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
     const std::string dimmed = "\x1b[2mTape Delay    VST      !Not Installed!  Off\x1b[0m";
     const std::string colour = InTerminal({"report", "used"}, "xterm");
     EXPECT_NE(colour.find(dimmed), std::string::npos) << colour;
@@ -146,14 +144,18 @@ TEST_F(ReportCommandTest, GreyedRowsAreDimmedOnAColourTerminalAndMarkedOnAnother
 }
 
 TEST_F(ReportCommandTest, NoColoursAreShownToAUserWhoWantsNone) {
-    setenv("TERM", "xterm", 1);
-    setenv("NO_COLOR", "1", 1);
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
+    test::SetVariable("TERM", "xterm");
+    test::SetVariable("NO_COLOR", "1");
     auto program = Program::StartInTerminal(CommandLine({"report", "used"}));
     EXPECT_EQ(program.ReadAll().find('\x1b'), std::string::npos);
     EXPECT_EQ(program.Wait(), 0);
 }
 
 TEST_F(ReportCommandTest, CsvOnATerminalCannotActOnIt) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
     WriteResult("tln.csv", "\"\x1b[2J\",\"VST\",\"On\"\r\n");
     const std::string shown = InTerminal({"report", "used", "--format", "csv"}, "xterm");
     EXPECT_EQ(shown.find('\x1b'), std::string::npos);

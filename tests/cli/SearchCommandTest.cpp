@@ -1,12 +1,15 @@
 #include <algorithm>
-#include <csignal>
+#include <chrono>
 #include <filesystem>
+#include <optional>
 #include <string>
-#include <unistd.h>
+#include <thread>
 
 #include <gtest/gtest.h>
 
 #include "tests/cli/CliTest.h"
+#include "tests/support/HeldFiles.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -87,28 +90,32 @@ TEST_F(SearchCommandTest, SettingsThatCannotBeReadOrWrittenAreSaidAndTheExitCode
 
 TEST_F(SearchCommandTest, AFolderIsListedUnderTheNameThatItWasGivenBy) {
     AddProject("a.cpr", {{.name = "Delay"}});
-    std::filesystem::create_directory_symlink(Songs(), folder.Path("link"));
+    if (!test::MakeLink("songs", folder.Path("link")))
+        GTEST_SKIP() << test::kNoLinks;
     EXPECT_EQ(Marlo({"search", folder.Path("link")}).exitCode, 0);
     EXPECT_NE(Result("results.csv").find(folder.Path("link/a.cpr")), std::string::npos);
 }
 
 TEST_F(SearchCommandTest, AnIgnoredInterruptStaysIgnored) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
     AddManyProjects();
     std::string command = "trap '' INT; exec";
     for (const std::string& word : CommandLine({"search", Songs()}))
         command += " '" + word + "'";
     auto program = Program::Start({"/bin/sh", "-c", command});
     while (!folder.Exists("app/settings.ini") || folder.Read("app/settings.ini").size() < 768)
-        usleep(1000);
-    program.Send(SIGINT);
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    program.Interrupt();
     EXPECT_EQ(program.Wait(), 0);
 }
 
 TEST_F(SearchCommandTest, ARelativeFolderIsRememberedByItsFullPath) {
     AddProject("a.cpr", {{.name = "Delay"}});
-    const std::string command = "cd '" + Songs() + "/..' && " + MARLO_CLI + " --app-folder app " +
-                                "search ./songs/../songs/";
-    EXPECT_EQ(test::Run({"/bin/sh", "-c", command}).exitCode, 0);
+    EXPECT_EQ(
+        test::Run({MARLO_CLI, "--app-folder", "app", "search", "./songs/../songs/"}, folder.Path())
+            .exitCode,
+        0);
     EXPECT_EQ(Setting(1), Songs());
     EXPECT_EQ(Setting(3), "1");
     EXPECT_NE(Result("results.csv").find(Songs() + "/a.cpr"), std::string::npos);
@@ -151,6 +158,8 @@ TEST_F(SearchCommandTest, TheResultFolderIsFoundWhateverTheCaseOfItsName) {
 }
 
 TEST_F(SearchCommandTest, AFullDiskLeavesTheOldResultFiles) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
     folder.Write("app/resultfiles/results.csv", "old");
     for (int i = 0; i < 200; ++i)
         AddProject(std::to_string(i) + ".cpr", {{.name = "Delay"}});
@@ -166,33 +175,30 @@ TEST_F(SearchCommandTest, AFullDiskLeavesTheOldResultFiles) {
               std::string::npos);
 }
 
-/// A search by an ordinary user whose old results.csv cannot be replaced at first.
+/// A search whose old results.csv another program holds.
 class HeldResultsTest : public SearchCommandTest {
   protected:
     void SetUp() override {
-        if (getuid() != 0)
-            GTEST_SKIP() << "needs a file that belongs to another user";
+        if (!test::HeldFiles::ArePossible())
+            GTEST_SKIP() << test::kNoHeldFiles;
         AddProject("a.cpr", {{.name = "Delay"}});
         folder.Write("app/resultfiles/results.csv", "old");
-        std::filesystem::permissions(folder.Path(), std::filesystem::perms{0755});
-        std::filesystem::permissions(folder.Path("app"), std::filesystem::perms{0777});
-        std::filesystem::permissions(folder.Path("app/resultfiles"), std::filesystem::perms{01777});
+        std::filesystem::permissions(folder.Path("app"), std::filesystem::perms::all);
+        held.emplace(std::vector{ResultsPath()});
     }
 
-    std::vector<std::string> SearchAsOrdinaryUser() const {
-        std::vector<std::string> words = CommandLine({"search", Songs()});
-        words.insert(words.begin(), {"/usr/bin/setpriv", "--reuid=65534", "--clear-groups"});
-        return words;
-    }
+    std::string ResultsPath() const { return folder.Path("app/resultfiles/results.csv"); }
 
     std::string Question() const {
-        return "marlo-cli: The file " + folder.Path("app/resultfiles/results.csv") +
+        return "marlo-cli: The file " + ResultsPath() +
                " is being used by another program. Close that program and click Ok to continue";
     }
+
+    std::optional<test::HeldFiles> held;
 };
 
 TEST_F(HeldResultsTest, WithoutATerminalTheQuestionIsAnsweredWithCancel) {
-    const auto result = test::Run(SearchAsOrdinaryUser());
+    const auto result = Marlo({"search", Songs()});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.error, Question() + "\n");
     EXPECT_EQ(Result("results.csv"), "old");
@@ -201,9 +207,11 @@ TEST_F(HeldResultsTest, WithoutATerminalTheQuestionIsAnsweredWithCancel) {
 }
 
 TEST_F(HeldResultsTest, OnATerminalTheQuestionIsAskedUntilTheFileIsFree) {
-    auto program = Program::StartInTerminal(SearchAsOrdinaryUser());
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
+    auto program = Program::StartInTerminal(CommandLine({"search", Songs()}));
     program.ReadUntil("[o]k or [c]ancel? ");
-    ASSERT_EQ(chown(folder.Path("app/resultfiles/results.csv").c_str(), 65534, 65534), 0);
+    held->Free(ResultsPath());
     program.Type("ok\n");
     const std::string seen = program.ReadAll();
     EXPECT_EQ(program.Wait(), 0) << seen;
@@ -212,7 +220,9 @@ TEST_F(HeldResultsTest, OnATerminalTheQuestionIsAskedUntilTheFileIsFree) {
 }
 
 TEST_F(HeldResultsTest, AnythingButOkCancelsTheQuestion) {
-    auto program = Program::StartInTerminal(SearchAsOrdinaryUser());
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
+    auto program = Program::StartInTerminal(CommandLine({"search", Songs()}));
     program.ReadUntil("[o]k or [c]ancel? ");
     program.Type("\n");
     program.ReadAll();
@@ -221,7 +231,9 @@ TEST_F(HeldResultsTest, AnythingButOkCancelsTheQuestion) {
 }
 
 TEST_F(HeldResultsTest, TheInterruptKeyCancelsTheQuestion) {
-    auto program = Program::StartInTerminal(SearchAsOrdinaryUser());
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
+    auto program = Program::StartInTerminal(CommandLine({"search", Songs()}));
     program.ReadUntil("[o]k or [c]ancel? ");
     program.Type("\x03");
     program.ReadAll();
@@ -246,6 +258,8 @@ TEST_F(SearchCommandTest, WithoutATerminalThereIsNoProgressUnlessAskedFor) {
 }
 
 TEST_F(SearchCommandTest, OnATerminalTheProgressIsOneLineThatIsClearedAtTheEnd) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
     AddProject("a.cpr", {{.name = "Delay"}});
     auto program = Program::StartInTerminal(CommandLine({"search", Songs()}));
     const std::string seen = program.ReadAll();
@@ -258,6 +272,8 @@ TEST_F(SearchCommandTest, OnATerminalTheProgressIsOneLineThatIsClearedAtTheEnd) 
 }
 
 TEST_F(SearchCommandTest, TheInterruptKeyCancelsAndLeavesTheOldResultFiles) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
     AddManyProjects();
     folder.Write("app/resultfiles/results.csv", "old");
     auto program = Program::StartInTerminal(CommandLine({"search", Songs()}));
@@ -275,8 +291,8 @@ TEST_F(SearchCommandTest, AnInterruptSignalWithoutATerminalCancelsToo) {
     auto program = Program::Start(CommandLine({"search", Songs()}));
     // The folder is remembered once the run has begun.
     while (!folder.Exists("app/settings.ini") || folder.Read("app/settings.ini").size() < 768)
-        usleep(1000);
-    program.Send(SIGINT);
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    program.Interrupt();
     EXPECT_EQ(program.Wait(), 130);
     EXPECT_FALSE(folder.Exists("app/resultfiles/results.csv"));
 }

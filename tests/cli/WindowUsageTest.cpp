@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/cli/CliTest.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -13,8 +14,8 @@ namespace {
 class WindowUsageTest : public test::CliTest {
   protected:
     WindowUsageTest() {
-        unsetenv("DISPLAY");
-        unsetenv("WAYLAND_DISPLAY");
+        test::ClearVariable("DISPLAY");
+        test::ClearVariable("WAYLAND_DISPLAY");
     }
 
     static test::ProgramResult Window(std::vector<std::string> arguments) {

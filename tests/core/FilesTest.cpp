@@ -1,13 +1,17 @@
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
-#include <unistd.h>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "core/Files.h"
 #include "core/RunTimeError.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/HeldFiles.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -19,11 +23,6 @@ constexpr const char* kResults = "\\resultfiles\\results.csv";
 
 class FilesTest : public test::ApplicationTest {
   protected:
-    /// Makes the result folder one whose files an ordinary user may neither delete nor replace,
-    /// though new ones may be made: what a file held by another program looks like.
-    void HoldResults() const { SetResultFolder(perms{01777}); }
-    void FreeResults() const { SetResultFolder(perms{0777}); }
-
     void SetResultFolder(perms mode) const {
         permissions(folder.Path(), perms{0755});
         permissions(folder.Path("resultfiles"), mode);
@@ -47,15 +46,17 @@ ErrorNumber FailureOf(const std::function<void()>& body) {
     return ErrorNumber::None;
 }
 
-/// The same with this process as an ordinary user; only a super-user can make another user's file.
+/// The old file is held by another program.
 class HeldFileTest : public FilesTest {
   protected:
     void SetUp() override {
-        if (getuid() != 0)
-            GTEST_SKIP() << "needs a file that belongs to another user";
+        if (!test::HeldFiles::ArePossible())
+            GTEST_SKIP() << test::kNoHeldFiles;
         folder.Write("resultfiles/results.csv", "old");
-        HoldResults();
+        held.emplace(std::vector{ResultsPath()});
     }
+
+    std::optional<test::HeldFiles> held;
 };
 
 TEST_F(FilesTest, FileExistsTellsFilesFromFoldersAndNothing) {
@@ -98,7 +99,6 @@ TEST_F(FilesTest, AskCloseFileInUseLeavesAFolderOfThatNameAlone) {
 }
 
 TEST_F(HeldFileTest, AskCloseFileInUseStopsAtCancel) {
-    const test::OrdinaryUser user;
     window.answers = {MessageAnswer::Ok, MessageAnswer::Cancel};
     MessageAnswer answer = MessageAnswer::None;
     AskCloseFileInUse(application, window, kResults, answer);
@@ -112,15 +112,9 @@ TEST_F(HeldFileTest, AskCloseFileInUseStopsAtCancel) {
 }
 
 TEST_F(HeldFileTest, AskCloseFileInUseDeletesOnceTheFileIsFree) {
-    window.onMessage = [&](const Message&) {
-        if (seteuid(0) == 0)
-            FreeResults();
-    };
+    window.onMessage = [&](const Message&) { held->Free(ResultsPath()); };
     MessageAnswer answer = MessageAnswer::None;
-    {
-        const test::OrdinaryUser user;
-        AskCloseFileInUse(application, window, kResults, answer);
-    }
+    { AskCloseFileInUse(application, window, kResults, answer); }
     EXPECT_EQ(answer, MessageAnswer::Ok);
     EXPECT_FALSE(folder.Exists("resultfiles/results.csv"));
     EXPECT_EQ(window.messages.size(), 1U);
@@ -158,8 +152,9 @@ TEST_F(FilesTest, WhatAKilledRunLeftIsOverwritten) {
 }
 
 TEST_F(FilesTest, ALinkInTheNewVersionsPlaceIsNotFollowed) {
-    const std::string target = folder.Write("precious", "precious");
-    std::filesystem::create_symlink(target, folder.Path("resultfiles/results.csv.new"));
+    folder.Write("precious", "precious");
+    if (!test::MakeLink("../precious", folder.Path("resultfiles/results.csv.new")))
+        GTEST_SKIP() << test::kNoLinks;
     StagedFile file(application, window, kResults);
     EXPECT_EQ(FailureOf([&] { file.Create(); }), ErrorNumber::PathFileAccess);
     EXPECT_EQ(folder.Read("precious"), "precious");
@@ -215,14 +210,15 @@ TEST_F(FilesTest, WithoutTheResultFolderThePathIsNotFound) {
 }
 
 TEST_F(FilesTest, InAReadOnlyFolderTheUserIsAskedUntilItIsWritable) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
     folder.Write("resultfiles/results.csv", "old");
     SetResultFolder(perms{0555});
-    if (getuid() == 0) {
-        ASSERT_EQ(chown(folder.Path("resultfiles").c_str(), 65534, 65534), 0);
-    }
-    const test::OrdinaryUser user;
+    std::optional<test::OrdinaryUser> user(std::in_place);
     window.onMessage = [&](const Message&) {
-        permissions(folder.Path("resultfiles"), perms{0755});
+        user.reset();
+        SetResultFolder(perms{0777});
+        user.emplace();
     };
     StagedFile file(application, window, kResults);
     EXPECT_TRUE(file.Create());
@@ -233,6 +229,8 @@ TEST_F(FilesTest, InAReadOnlyFolderTheUserIsAskedUntilItIsWritable) {
 }
 
 TEST_F(FilesTest, CancelInAReadOnlyFolderLeavesTheOldFile) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
     folder.Write("resultfiles/results.csv", "old");
     SetResultFolder(perms{0555});
     const test::OrdinaryUser user;
@@ -243,7 +241,6 @@ TEST_F(FilesTest, CancelInAReadOnlyFolderLeavesTheOldFile) {
 }
 
 TEST_F(HeldFileTest, AStagedFileLeavesTheOldOneWhenTheUserCancels) {
-    const test::OrdinaryUser user;
     window.answers = {MessageAnswer::Cancel};
     {
         StagedFile file(application, window, kResults);
@@ -257,12 +254,8 @@ TEST_F(HeldFileTest, AStagedFileLeavesTheOldOneWhenTheUserCancels) {
 }
 
 TEST_F(HeldFileTest, AStagedFileTakesItsPlaceOnceTheOldOneIsFree) {
-    window.onMessage = [&](const Message&) {
-        if (seteuid(0) == 0)
-            FreeResults();
-    };
+    window.onMessage = [&](const Message&) { held->Free(ResultsPath()); };
     {
-        const test::OrdinaryUser user;
         StagedFile file(application, window, kResults);
         EXPECT_TRUE(file.Create());
         file.WriteLine("new");

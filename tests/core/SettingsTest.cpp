@@ -5,6 +5,7 @@
 
 #include "core/Settings.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -87,6 +88,8 @@ TEST_F(SettingsTest, AFolderInTheFilesPlaceIsLoggedAndNothingIsShown) {
 }
 
 TEST_F(SettingsTest, AFileThatMayNotBeWrittenCanStillBeRead) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
     WriteSetting(application, 1, "kept");
     std::filesystem::permissions(folder.Path(), std::filesystem::perms{0755});
     std::filesystem::permissions(folder.Path("settings.ini"), std::filesystem::perms{0444});

@@ -6,6 +6,7 @@
 #include "core/Settings.h"
 #include "inventory/FileAssociation.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -16,7 +17,7 @@ using platform::registry_type::kExpandString;
 
 class FileAssociationTest : public test::ApplicationTest {
   protected:
-    FileAssociationTest() { setenv("SystemRoot", "C:\\WINDOWS", 1); }
+    FileAssociationTest() { test::SetVariable("SystemRoot", "C:\\WINDOWS"); }
 
     void Associate(const std::string& command) {
         registry.SetText(kClassesRoot, ".csv", "", "csvfile");
@@ -51,7 +52,7 @@ TEST_F(FileAssociationTest, OnlyOneVariableIsExpandedAndTheTextBeforeItIsDropped
 }
 
 TEST_F(FileAssociationTest, AnUnknownVariableIsEmpty) {
-    unsetenv("MARLO_UNKNOWN");
+    test::ClearVariable("MARLO_UNKNOWN");
     AssociateExpandable("%MARLO_UNKNOWN%\\a.exe");
     EXPECT_EQ(Program(), "\\a.exe");
     EXPECT_EQ(Log(), "");

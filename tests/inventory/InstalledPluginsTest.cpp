@@ -7,6 +7,7 @@
 #include "core/Settings.h"
 #include "inventory/InstalledPlugins.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/System.h"
 #include "tools/FilterWriter.h"
 
 namespace marlo {
@@ -131,6 +132,8 @@ TEST_F(RefreshPluginsTest, ACancelWithoutAFolderIsNotSeen) {
 }
 
 TEST_F(RefreshPluginsTest, AListThatIsInUseIsAskedAboutAndCancelLeavesItAsItIs) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
     folder.Write(kFile, "old");
     using std::filesystem::perms;
     std::filesystem::permissions(folder.Path(), perms{0755});

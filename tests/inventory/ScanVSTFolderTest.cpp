@@ -7,6 +7,7 @@
 #include "core/RunTimeError.h"
 #include "inventory/ScanVSTFolder.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -109,6 +110,8 @@ TEST_F(ScanVSTFolderTest, AMissingFolderGivesNoLineAndNoMessage) {
 }
 
 TEST_F(ScanVSTFolderTest, AFolderThatMayNotBeOpenedIsPassedOver) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
     folder.Write("vst/a/Delay.dll", "");
     folder.Write("vst/b/Reverb.dll", "");
     using std::filesystem::perms;
@@ -156,14 +159,17 @@ TEST_F(ScanVSTFolderTest, ACancelOfBeforeIsNotTakenBack) {
 
 TEST_F(ScanVSTFolderTest, AFolderLinkDoesNotMakeTheWalkEndlessOrAFolderListedTwice) {
     folder.Write("vst/a/Delay.dll", "");
-    std::filesystem::create_directory_symlink("..", Vst("a/up"));
-    std::filesystem::create_directory_symlink("a", Vst("link"));
+    if (!test::MakeLink("..", Vst("a/up")))
+        GTEST_SKIP() << test::kNoLinks;
+    if (!test::MakeLink("a", Vst("link")))
+        GTEST_SKIP() << test::kNoLinks;
     EXPECT_EQ(Lines(), Line("Delay", "a/Delay.dll"));
 }
 
 TEST_F(ScanVSTFolderTest, ALinkedFolderIsScanned) {
     folder.Write("elsewhere/Delay.dll", "");
-    std::filesystem::create_directory_symlink("../elsewhere", Vst("link"));
+    if (!test::MakeLink("../elsewhere", Vst("link")))
+        GTEST_SKIP() << test::kNoLinks;
     EXPECT_EQ(Lines(), Line("Delay", "link/Delay.dll"));
 }
 

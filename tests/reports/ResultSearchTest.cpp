@@ -1,9 +1,6 @@
-#include <array>
-#include <fcntl.h>
 #include <filesystem>
 #include <functional>
 #include <string>
-#include <sys/stat.h>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -12,6 +9,7 @@
 #include "reports/ReportView.h"
 #include "reports/ResultSearch.h"
 #include "tests/support/ReportTest.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -25,8 +23,7 @@ constexpr const char* kDate = "10/28/2006 3:45:12 PM";
 class ResultSearchTest : public test::ReportTest {
   protected:
     ResultSearchTest() {
-        setenv("TZ", "UTC0", 1);
-        tzset();
+        test::SetVariable("TZ", "UTC0");
         WriteInstalled({{"VST", "Reverb", "/vst/Reverb.dll"}});
         search.cboSearchType = "Contains";
     }
@@ -34,9 +31,7 @@ class ResultSearchTest : public test::ReportTest {
     /// Makes a project file that was changed at `kDate`. @return its path.
     std::string Project(const std::string& name) const {
         std::string path = folder.Write(name, "");
-        const timespec time{1162050312, 0};
-        const std::array<timespec, 2> times = {time, time};
-        EXPECT_EQ(utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
+        folder.SetLastChange(name, 1162050312);
         return path;
     }
 

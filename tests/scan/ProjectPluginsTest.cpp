@@ -8,6 +8,7 @@
 
 #include "scan/ProjectPlugins.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/System.h"
 #include "tools/ProjectWriter.h"
 
 namespace marlo {
@@ -211,6 +212,8 @@ TEST_F(ProjectPluginsTest, AFolderIsLoggedAndFails) {
 }
 
 TEST_F(ProjectPluginsTest, AFileThatMayNotBeReadIsLoggedAndFails) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
     const std::string path = folder.Write("locked.cpr", kFront);
     std::filesystem::permissions(path, std::filesystem::perms::none);
     std::filesystem::permissions(folder.Path(), std::filesystem::perms{0755});

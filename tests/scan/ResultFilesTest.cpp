@@ -1,12 +1,13 @@
 #include <filesystem>
 #include <string>
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
 #include "core/Records.h"
 #include "scan/ResultFiles.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/HeldFiles.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -71,6 +72,8 @@ TEST_F(ResultFilesTest, AVstTypeIsPaddedInTwoFilesAndTrimmedInTheThird) {
 }
 
 TEST_F(ResultFilesTest, CancelAtTheFirstQuestionWritesNothingFurtherAndIsNoFailure) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
     WriteOldFiles();
     permissions(folder.Path(), perms{0755});
     permissions(folder.Path("resultfiles"), perms{0555});
@@ -162,17 +165,14 @@ TEST_F(ResultFilesTest, FilesWrittenBeforeAFailureStayAsTheyAre) {
 }
 
 TEST_F(ResultFilesTest, CancelAtTheSecondQuestionKeepsTheOldFilesFromThereOnAndIsNoFailure) {
-    if (getuid() != 0)
-        GTEST_SKIP() << "needs a file that belongs to another user";
+    if (!test::HeldFiles::ArePossible())
+        GTEST_SKIP() << test::kNoHeldFiles;
     WriteOldFiles();
-    // The first file may be replaced, the others belong to somebody else.
-    permissions(folder.Path(), perms{0755});
-    permissions(folder.Path("resultfiles"), perms{01777});
-    ASSERT_EQ(chown(folder.Path("resultfiles/results.csv").c_str(), 65534, 65534), 0);
     AddUse("A.cpr", "Delay", "On");
     window.answers = {MessageAnswer::Cancel};
     {
-        const test::OrdinaryUser user;
+        const test::HeldFiles held(
+            {folder.Path("resultfiles/fln.csv"), folder.Path("resultfiles/tln.csv")});
         EXPECT_TRUE(Create());
     }
     EXPECT_EQ(Results(), "\"A.cpr\",\"Delay\",\"VST    \",\"On\"\r\n");
@@ -186,30 +186,25 @@ TEST_F(ResultFilesTest, CancelAtTheSecondQuestionKeepsTheOldFilesFromThereOnAndI
 }
 
 TEST_F(ResultFilesTest, TheQuestionsComeInTheOrderOfTheFiles) {
-    if (getuid() != 0)
-        GTEST_SKIP() << "needs a file that belongs to another user";
+    if (!test::HeldFiles::ArePossible())
+        GTEST_SKIP() << test::kNoHeldFiles;
     WriteOldFiles();
-    permissions(folder.Path(), perms{0755});
-    permissions(folder.Path("resultfiles"), perms{01777});
-    const auto free = [&](const std::string& name) {
-        if (seteuid(0) == 0 && chown(folder.Path(name).c_str(), 65534, 65534) == 0 &&
-            seteuid(65534) == 0)
-            return;
-        ADD_FAILURE() << "cannot free " << name;
-    };
+    const std::vector<std::string> paths = {folder.Path("resultfiles/results.csv"),
+                                            folder.Path("resultfiles/fln.csv"),
+                                            folder.Path("resultfiles/tln.csv")};
     std::vector<std::string> asked;
-    window.onMessage = [&](const Message& message) {
-        for (const std::string name : {"results.csv", "fln.csv", "tln.csv"})
-            if (message.text.find("/" + name) != std::string::npos) {
-                asked.push_back(name);
-                free("resultfiles/" + name);
-            }
-    };
     {
-        const test::OrdinaryUser user;
+        test::HeldFiles held(paths);
+        window.onMessage = [&](const Message& message) {
+            for (const std::string& path : paths)
+                if (message.text.find(path) != std::string::npos) {
+                    asked.push_back(path);
+                    held.Free(path);
+                }
+        };
         EXPECT_TRUE(Create());
     }
-    EXPECT_EQ(asked, (std::vector<std::string>{"results.csv", "fln.csv", "tln.csv"}));
+    EXPECT_EQ(asked, paths);
     EXPECT_EQ(Tln(), "");
 }
 

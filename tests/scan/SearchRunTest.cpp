@@ -7,6 +7,7 @@
 #include "core/Settings.h"
 #include "scan/SearchRun.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/System.h"
 #include "tools/ProjectWriter.h"
 
 namespace marlo {
@@ -212,6 +213,8 @@ TEST_F(SearchRunTest, AFileThatVanishesBeforeItsScanIsAFailedProject) {
 }
 
 TEST_F(SearchRunTest, ALockedProjectStillGivesResultFilesForTheOthers) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
     const std::string locked = AddProject("a.cpr", "Delay");
     AddProject("b.cpr", "Echo");
     std::filesystem::permissions(folder.Path(), std::filesystem::perms{0777});
@@ -227,6 +230,8 @@ TEST_F(SearchRunTest, ALockedProjectStillGivesResultFilesForTheOthers) {
 }
 
 TEST_F(SearchRunTest, CancelAtTheFileInUseQuestionCountsAsACompletedRun) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
     AddProject("a.cpr", "Delay");
     folder.Write("resultfiles/results.csv", "old");
     std::filesystem::permissions(folder.Path(), std::filesystem::perms{0777});

@@ -1,25 +1,20 @@
 #include "tests/support/TempFolder.h"
 
+#include <chrono>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
-#include <unistd.h>
+#include <random>
 
 #include <gtest/gtest.h>
 
 namespace marlo::test {
 
-namespace {
-
-constexpr uid_t kNobody = 65534;
-
-}  // namespace
-
 TempFolder::TempFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "marlo-test-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr)
-        throw std::runtime_error("cannot make a folder for the test");
-    path_ = std::filesystem::canonical(pattern);
+    const auto all = std::filesystem::canonical(std::filesystem::temp_directory_path());
+    std::random_device random;
+    do
+        path_ = all / ("marlo-test-" + std::to_string(random()));
+    while (!std::filesystem::create_directory(path_));
 }
 
 TempFolder::~TempFolder() {
@@ -28,7 +23,8 @@ TempFolder::~TempFolder() {
 }
 
 std::string TempFolder::Path(const std::string& name) const {
-    return name.empty() ? path_.string() : (path_ / name).string();
+    std::filesystem::path path = name.empty() ? path_ : path_ / name;
+    return path.make_preferred().string();
 }
 
 std::string TempFolder::Write(const std::string& name, std::string_view bytes) const {
@@ -50,18 +46,14 @@ std::string TempFolder::Read(const std::string& name) const {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+void TempFolder::SetLastChange(const std::string& name, std::time_t moment) const {
+    std::filesystem::last_write_time(
+        path_ / name,
+        std::chrono::file_clock::from_sys(std::chrono::system_clock::from_time_t(moment)));
+}
+
 bool TempFolder::Exists(const std::string& name) const {
     return std::filesystem::exists(path_ / name);
-}
-
-OrdinaryUser::OrdinaryUser() {
-    if (getuid() == 0 && seteuid(kNobody) != 0)
-        throw std::runtime_error("cannot become an ordinary user");
-}
-
-OrdinaryUser::~OrdinaryUser() {
-    if (getuid() == 0 && seteuid(0) != 0)
-        std::terminate();
 }
 
 }  // namespace marlo::test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ctime>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -16,7 +17,8 @@ class TempFolder {
     TempFolder& operator=(TempFolder&&) = delete;
     ~TempFolder();
 
-    /// The full path of `name` in the folder; of the folder itself without a name.
+    /// The full path of `name` in the folder, in the system's form; of the folder itself without a
+    /// name.
     std::string Path(const std::string& name = "") const;
 
     /// Writes a file, making the folders it needs.
@@ -29,22 +31,13 @@ class TempFolder {
     /// The bytes of a file; fails the test when there is no such file.
     std::string Read(const std::string& name) const;
 
+    /// Sets a file's last change. @param moment in seconds since 1970, UTC.
+    void SetLastChange(const std::string& name, std::time_t moment) const;
+
     bool Exists(const std::string& name) const;
 
   private:
     std::filesystem::path path_;
-};
-
-/// Makes this process an ordinary user for as long as it lives: the permissions of files, which a
-/// super-user passes by, count. Takes effect for this thread only.
-class OrdinaryUser {
-  public:
-    OrdinaryUser();
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-    OrdinaryUser(OrdinaryUser&&) = delete;
-    OrdinaryUser& operator=(OrdinaryUser&&) = delete;
-    ~OrdinaryUser();
 };
 
 }  // namespace marlo::test

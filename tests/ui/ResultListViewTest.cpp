@@ -1,10 +1,7 @@
-#include <array>
 #include <cstdlib>
 #include <ctime>
 #include <exception>
-#include <fcntl.h>
 #include <string>
-#include <sys/stat.h>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -13,6 +10,7 @@
 #include "reports/ReportView.h"
 #include "reports/ResultSearch.h"
 #include "tests/support/ReportTest.h"
+#include "tests/support/System.h"
 #include "ui/ResultListView.h"
 
 namespace marlo {
@@ -104,16 +102,13 @@ TEST_F(ColumnClickTest, DatesSortByTimeAndComeBackWithoutTheirZeros) {
 }
 
 TEST_F(ColumnClickTest, AfterAReportAndASearchTheFirstClickOnTheDatesSortsThemDescending) {
-    setenv("TZ", "UTC0", 1);
-    tzset();
+    test::SetVariable("TZ", "UTC0");
     ShowReport();
     std::vector<Texts> uses;
     const std::vector<std::time_t> moments = {1162050312, 1166617800, 1160042829};
     for (std::size_t i = 0; i < moments.size(); ++i) {
         const std::string project = folder.Write(std::to_string(i) + ".cpr", "");
-        const timespec time{moments[i], 0};
-        const std::array<timespec, 2> times = {time, time};
-        EXPECT_EQ(utimensat(AT_FDCWD, project.c_str(), times.data(), 0), 0);
+        folder.SetLastChange(std::to_string(i) + ".cpr", moments[i]);
         uses.push_back({project, "b", "VST", "On"});
     }
     WriteRecords("fln.csv", uses);

@@ -1,10 +1,9 @@
-#include <csignal>
 #include <filesystem>
-#include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
 #include "tests/support/ReportTest.h"
+#include "tests/support/System.h"
 #include "ui/SaveList.h"
 
 namespace marlo {
@@ -64,14 +63,14 @@ TEST_F(SaveListTest, AFolderInTheWayIsToldAndStays) {
 }
 
 TEST_F(SaveListTest, ADiskThatIsFullLeavesTheOldFile) {
+    if (!test::FileSizeLimit::IsPossible())
+        GTEST_SKIP() << test::kNoFileSizeLimit;
     folder.Write("list.csv", "old");
-    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit noSpace{.rlim_cur = 10, .rlim_max = RLIM_INFINITY};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &noSpace), 0);
-    const bool isSaved = Save("list.csv");
-    const rlimit all{.rlim_cur = RLIM_INFINITY, .rlim_max = RLIM_INFINITY};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &all), 0);
-    (void)std::signal(SIGXFSZ, oldHandler);
+    bool isSaved = true;
+    {
+        const test::FileSizeLimit full(10);
+        isSaved = Save("list.csv");
+    }
     EXPECT_FALSE(isSaved);
     EXPECT_EQ(window.messages.size(), 1U);
     EXPECT_EQ(folder.Read("list.csv"), "old");

@@ -9,6 +9,7 @@
 
 #include "platform/Machine.h"
 #include "platform/linux/WinePrefix.h"
+#include "tests/support/System.h"
 #include "tests/support/TempFolder.h"
 
 namespace marlo::platform {
@@ -371,13 +372,13 @@ TEST_F(LocalPathTest, WhatLeadsNowhereIsEmpty) {
 }
 
 TEST(UsersPrefixTest, ThePrefixIsTheEnvironmentsElseInTheHomeFolder) {
-    setenv("WINEPREFIX", "/prefixes/studio", 1);
+    test::SetVariable("WINEPREFIX", "/prefixes/studio");
     EXPECT_EQ(WinePrefix::UsersFolder(), "/prefixes/studio");
-    setenv("WINEPREFIX", "", 1);
-    setenv("HOME", "/home/someone", 1);
+    test::SetVariable("WINEPREFIX", "");
+    test::SetVariable("HOME", "/home/someone");
     EXPECT_EQ(WinePrefix::UsersFolder(), "/home/someone/.wine");
-    unsetenv("WINEPREFIX");
-    unsetenv("HOME");
+    test::ClearVariable("WINEPREFIX");
+    test::ClearVariable("HOME");
     EXPECT_EQ(WinePrefix::UsersFolder(), "");
 }
 

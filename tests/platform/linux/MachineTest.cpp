@@ -9,6 +9,7 @@
 
 #include "platform/Machine.h"
 #include "platform/linux/LinuxClock.h"
+#include "tests/support/System.h"
 #include "tests/support/TempFolder.h"
 
 namespace marlo::platform {
@@ -63,9 +64,9 @@ class MadeDesktop {
                       "[Default Applications]\ntext/x-sheet=sheets.desktop\n"
                       "text/x-song=sheets.desktop\ninode/directory=sheets.desktop\n"
                       "text/x-boxed=boxed.desktop\nx-scheme-handler/https=sheets.desktop\n");
-        setenv("XDG_DATA_HOME", folder_.Path("data").c_str(), 1);
-        setenv("XDG_DATA_DIRS", folder_.Path("data").c_str(), 1);
-        setenv("XDG_CONFIG_HOME", folder_.Path("config").c_str(), 1);
+        test::SetVariable("XDG_DATA_HOME", folder_.Path("data"));
+        test::SetVariable("XDG_DATA_DIRS", folder_.Path("data"));
+        test::SetVariable("XDG_CONFIG_HOME", folder_.Path("config"));
     }
 
     test::TempFolder folder_;
@@ -237,7 +238,7 @@ TEST(ClockTest, TheClockTellsTheLocalTime) {
 
 TEST(ClockTest, DatesAndTimesHaveTheFormOfTheUsersLocale) {
     // The plain locale is the one that is installed everywhere.
-    setenv("LC_ALL", "C", 1);
+    test::SetVariable("LC_ALL", "C");
     std::tm moment{};
     moment.tm_year = 126;
     moment.tm_mon = 10;
@@ -250,7 +251,7 @@ TEST(ClockTest, DatesAndTimesHaveTheFormOfTheUsersLocale) {
 }
 
 TEST(ClockTest, ALocaleThatIsNotInstalledFallsBackToThePlainForm) {
-    setenv("LC_ALL", "xx_XX.UTF-8", 1);
+    test::SetVariable("LC_ALL", "xx_XX.UTF-8");
     std::tm moment{};
     moment.tm_year = 126;
     moment.tm_mday = 1;

@@ -48,7 +48,7 @@ void ReadBoth(int outPipe, int errorPipe, ProgramResult& result) {
 
 }  // namespace
 
-ProgramResult Run(const std::vector<std::string>& arguments) {
+ProgramResult Run(const std::vector<std::string>& arguments, const std::string& workingFolder) {
     std::array<int, 2> outPipe{};
     std::array<int, 2> errorPipe{};
     if (pipe2(outPipe.data(), O_CLOEXEC) != 0 || pipe2(errorPipe.data(), O_CLOEXEC) != 0)
@@ -59,6 +59,8 @@ ProgramResult Run(const std::vector<std::string>& arguments) {
         dup2(nothing, STDIN_FILENO);
         dup2(outPipe[1], STDOUT_FILENO);
         dup2(errorPipe[1], STDERR_FILENO);
+        if (!workingFolder.empty() && chdir(workingFolder.c_str()) != 0)
+            _exit(127);
         Become(arguments);
     }
     close(outPipe[1]);
@@ -73,6 +75,15 @@ ProgramResult Run(const std::vector<std::string>& arguments) {
     return result;
 }
 
+struct Program::Process {
+    pid_t id;
+    int terminal = -1;  ///< -1 without a terminal
+};
+
+Program::Program(std::unique_ptr<Process> process) : process_(std::move(process)) {}
+
+Program::Program(Program&&) noexcept = default;
+
 Program Program::Start(const std::vector<std::string>& arguments) {
     const pid_t process = fork();
     if (process == 0) {
@@ -81,7 +92,7 @@ Program Program::Start(const std::vector<std::string>& arguments) {
             dup2(nothing, stream);
         Become(arguments);
     }
-    return {process, -1};
+    return Program(std::make_unique<Process>(Process{process}));
 }
 
 Program Program::StartInTerminal(const std::vector<std::string>& arguments) {
@@ -94,31 +105,37 @@ Program Program::StartInTerminal(const std::vector<std::string>& arguments) {
         Become(arguments);
     if (process < 0)
         throw std::runtime_error("no terminal");
-    return {process, terminal};
+    return Program(std::make_unique<Process>(Process{process, terminal}));
 }
 
 Program::~Program() {
-    if (process_ > 0) {
-        Send(SIGKILL);
+    if (!process_)
+        return;
+    if (process_->id > 0) {
+        Kill();
         Wait();
     }
-    if (terminal_ >= 0)
-        close(terminal_);
+    if (process_->terminal >= 0)
+        close(process_->terminal);
 }
 
-void Program::Send(int signal) const {
-    kill(process_, signal);
+void Program::Kill() {
+    kill(process_->id, SIGKILL);
 }
 
-void Program::Type(const std::string& text) const {
-    if (write(terminal_, text.data(), text.size()) != static_cast<ssize_t>(text.size()))
+void Program::Interrupt() {
+    kill(process_->id, SIGINT);
+}
+
+void Program::Type(const std::string& text) {
+    if (write(process_->terminal, text.data(), text.size()) != static_cast<ssize_t>(text.size()))
         throw std::runtime_error("cannot type");
 }
 
 const std::string& Program::ReadUntil(const std::string& text) {
     std::array<char, 4096> buffer{};
     while (text.empty() || read_.find(text) == std::string::npos) {
-        const ssize_t count = read(terminal_, buffer.data(), buffer.size());
+        const ssize_t count = read(process_->terminal, buffer.data(), buffer.size());
         if (count <= 0)
             break;
         read_.append(buffer.data(), static_cast<std::size_t>(count));
@@ -130,15 +147,16 @@ const std::string& Program::ReadAll() {
     return ReadUntil("");
 }
 
-bool Program::IsRunning() const {
+bool Program::IsRunning() {
     siginfo_t ended{};
-    return waitid(P_PID, static_cast<id_t>(process_), &ended, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+    return waitid(P_PID, static_cast<id_t>(process_->id), &ended, WEXITED | WNOHANG | WNOWAIT) ==
+               0 &&
            ended.si_pid == 0;
 }
 
 int Program::Wait() {
     int status = 0;
-    waitpid(std::exchange(process_, 0), &status, 0);
+    waitpid(std::exchange(process_->id, 0), &status, 0);
     return ExitCodeOf(status);
 }
 

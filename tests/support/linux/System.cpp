@@ -1,0 +1,75 @@
+#include "tests/support/System.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <ctime>
+#include <exception>
+#include <filesystem>
+#include <stdexcept>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace marlo::test {
+
+namespace {
+
+constexpr uid_t kNobody = 65534;
+
+}  // namespace
+
+void SetVariable(const std::string& name, const std::string& value) {
+    setenv(name.c_str(), value.c_str(), 1);
+    tzset();
+}
+
+void ClearVariable(const std::string& name) {
+    unsetenv(name.c_str());
+    tzset();
+}
+
+bool CanChooseTimeZone() {
+    return true;
+}
+
+bool MakeLink(const std::string& target, const std::string& path) {
+    std::filesystem::create_symlink(target, path);
+    return true;
+}
+
+bool CanBeOrdinaryUser() {
+    return true;
+}
+
+FileSizeLimit::FileSizeLimit(std::size_t size) {
+    (void)std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{.rlim_cur = size, .rlim_max = RLIM_INFINITY};
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
+        throw std::runtime_error("cannot limit the size of files");
+}
+
+FileSizeLimit::~FileSizeLimit() {
+    const rlimit all{.rlim_cur = RLIM_INFINITY, .rlim_max = RLIM_INFINITY};
+    if (setrlimit(RLIMIT_FSIZE, &all) != 0)
+        std::terminate();
+    (void)std::signal(SIGXFSZ, SIG_DFL);
+}
+
+bool FileSizeLimit::IsPossible() {
+    return true;
+}
+
+bool HasUnixShell() {
+    return true;
+}
+
+OrdinaryUser::OrdinaryUser() {
+    if (getuid() == 0 && seteuid(kNobody) != 0)
+        throw std::runtime_error("cannot become an ordinary user");
+}
+
+OrdinaryUser::~OrdinaryUser() {
+    if (getuid() == 0 && seteuid(0) != 0)
+        std::terminate();
+}
+
+}  // namespace marlo::test
