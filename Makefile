@@ -4,7 +4,8 @@
 PACKAGES := packaging/install-packages
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-.PHONY: help run build test test-sanitizer bench package screenshots pictures format lint clean
+.PHONY: help run build test test-sanitizer test-windows bench package package-windows \
+	screenshots pictures format lint clean
 
 help: ## List the targets
 	@sed -n 's/^\([a-z-]*\):.*## /  make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
@@ -30,6 +31,15 @@ test-sanitizer: ## The same tests with AddressSanitizer and UndefinedBehaviorSan
 	@cmake --build --preset sanitizer
 	ctest --preset sanitizer -j 2
 
+test-windows: ## Build for Windows and run every test under Wine
+	@$(PACKAGES) build windows windows64
+	@cmake --preset normal --log-level=WARNING
+	@cmake --build --preset normal --target marlo-cli marlo-samples
+	@packaging/windows/configure windows64
+	@cmake --build --preset windows64
+	tests/windows/with-wine ctest --preset windows64 -j 2
+	@tests/windows/run-32-bit
+
 bench: ## Measure speed against baselines from the same run
 	@$(PACKAGES) build bench
 	@cmake --preset release --log-level=WARNING
@@ -43,6 +53,14 @@ package: ## Pack the programs for Linux, ready to be unpacked and run
 	@cmake --preset package --log-level=WARNING
 	@cmake --build --preset package
 	@packaging/make-package build/package
+
+package-windows: ## Pack the programs for Windows, ready to be unzipped and run
+	@$(PACKAGES) build windows windows32 windows64 windows-package
+	@for preset in windows32 windows64; do \
+		packaging/windows/configure $$preset && \
+		cmake --build --preset $$preset --target marlo marlo-cli && \
+		packaging/windows/make-package build/$$preset || exit 1; \
+	done
 
 screenshots: ## Save pictures of every window and dialog in build/normal/screenshots
 	@$(PACKAGES) build pictures

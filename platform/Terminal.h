@@ -7,11 +7,20 @@ namespace marlo::platform {
 
 enum class Stream { In, Out, Error };
 
+/// Has the standard streams pass bytes on as they are, and terminals take them for UTF-8, where
+/// that is not the system's own way. To be called before anything is written; terminals are as they
+/// were when the program ends.
+void PrepareStreams();
+
 /// Whether the stream is connected to a terminal.
 bool IsTerminal(Stream stream);
 
 /// The width of the terminal behind `stream` in character cells; 80 when it does not tell.
 int TerminalWidth(Stream stream);
+
+/// Whether the stream is connected to a terminal that obeys escape sequences, for example the one
+/// that clears a line.
+bool ObeysSequences(Stream stream);
 
 /// Whether the stream is connected to a terminal that shows colours, and the user wants them
 /// (the environment variable NO_COLOR is not set, or empty).

@@ -16,7 +16,7 @@ Application ApplicationOf(const Environment& environment, TerminalWindow& window
 }
 
 ProgressStyle ProgressStyleFor(bool wantedAnyway) {
-    if (platform::IsTerminal(platform::Stream::Error))
+    if (platform::ObeysSequences(platform::Stream::Error))
         return ProgressStyle::Redrawn;
     return wantedAnyway ? ProgressStyle::Lines : ProgressStyle::None;
 }

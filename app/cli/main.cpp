@@ -16,6 +16,7 @@
 #include "app/cli/TerminalText.h"
 #include "platform/FileSystem.h"
 #include "platform/Machine.h"
+#include "platform/Terminal.h"
 #include "reports/ReportView.h"
 #include "reports/ResultSearch.h"
 
@@ -286,5 +287,6 @@ class CommandLine {
 }  // namespace marlo::cli
 
 int main(int argc, char** argv) {
+    marlo::platform::PrepareStreams();
     return marlo::cli::CommandLine().Run({argv + 1, argv + argc});
 }

@@ -55,8 +55,14 @@ bool WaitForInput() {
 
 }  // namespace
 
+void PrepareStreams() {}
+
 bool IsTerminal(Stream stream) {
     return isatty(HandleOf(stream)) == 1;
+}
+
+bool ObeysSequences(Stream stream) {
+    return IsTerminal(stream);
 }
 
 bool ShowsColours(Stream stream) {

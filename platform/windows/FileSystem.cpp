@@ -158,15 +158,16 @@ void MoveIntoPlace(const std::string& from, const std::string& to, std::error_co
     const bool isMoved = MoveFileExW(WidePath(from).c_str(), WidePath(to).c_str(),
                                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
     error = isMoved ? std::error_code() : LastWindowsError();
+    std::error_code ignored;
+    if (error && IsFolder(to, ignored))
+        error = std::make_error_code(std::errc::is_a_directory);
 }
 
 std::optional<std::string> ParentPath(const std::string& path) {
-    const std::size_t separator = path.find_last_of("\\/");
+    const std::size_t separator = path.rfind('\\');
     if (separator == std::string::npos)
         return std::nullopt;
-    // The root of a drive keeps its separator; without it the path means another folder.
-    const bool isRoot = separator == 0 || (separator == 2 && path[1] == ':');
-    return path.substr(0, isRoot ? separator + 1 : separator);
+    return path.substr(0, separator);
 }
 
 std::string FullPath(const std::string& path, std::error_code& error) {

@@ -1,7 +1,10 @@
 #include "platform/Terminal.h"
 
 #include <atomic>
+#include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
+#include <io.h>
 #include <string_view>
 
 #include "platform/windows/System.h"
@@ -35,20 +38,32 @@ HANDLE HandleOf(Stream stream) {
 
 }  // namespace
 
+void PrepareStreams() {
+    for (std::FILE* const stream : {stdin, stdout, stderr})
+        _setmode(_fileno(stream), _O_BINARY);
+    static const UINT pageBefore = GetConsoleOutputCP();
+    if (pageBefore == 0 || SetConsoleOutputCP(CP_UTF8) == FALSE)
+        return;
+    std::atexit([] { SetConsoleOutputCP(pageBefore); });
+}
+
 bool IsTerminal(Stream stream) {
     DWORD mode = 0;
     return GetConsoleMode(HandleOf(stream), &mode) != FALSE;
 }
 
-bool ShowsColours(Stream stream) {
-    const char* const unwanted = std::getenv("NO_COLOR");
-    if (unwanted != nullptr && *unwanted != '\0')
-        return false;
-    // Consoles since Windows 10 know the sequences, once they are asked to.
+bool ObeysSequences(Stream stream) {
+    // Consoles since Windows 10 do, once they are asked to.
     DWORD mode = 0;
     const HANDLE handle = HandleOf(stream);
     return GetConsoleMode(handle, &mode) != FALSE &&
            SetConsoleMode(handle, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != FALSE;
+}
+
+bool ShowsColours(Stream stream) {
+    const char* const unwanted = std::getenv("NO_COLOR");
+    const bool isWanted = unwanted == nullptr || *unwanted == '\0';
+    return isWanted && ObeysSequences(stream);
 }
 
 int TerminalWidth(Stream stream) {

@@ -37,6 +37,12 @@ class CliTest : public testing::Test {
         return test::Run(CommandLine(arguments));
     }
 
+    /// Runs the window's program.
+    static ProgramResult MarloWindow(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), MARLO_WINDOW);
+        return test::Run(arguments);
+    }
+
     /// Writes a project into "songs". @return its path.
     std::string AddProject(const std::string& name,
                            const std::vector<tools::PluginSlot>& slots) const {

@@ -37,22 +37,28 @@ TEST_F(FileSystemTest, AFoldersEntriesAreFilesAndFoldersAndLinksCountAsWhatTheyL
     folder.Write("file", "");
     folder.Write(".hidden", "");
     folder.MakeFolder("sub");
-    if (!test::MakeLink("sub", folder.Path("to folder")))
+    if (!test::MakeLink("sub", folder.Path("to folder")) ||
+        !test::MakeLink("file", folder.Path("to file")))
         GTEST_SKIP() << test::kNoLinks;
-    if (!test::MakeLink("file", folder.Path("to file")))
-        GTEST_SKIP() << test::kNoLinks;
+    const auto entries = Folder::Open(folder.Path(), error).Entries(error);
+    EXPECT_FALSE(error);
+    EXPECT_EQ(NamesOf(entries.files), (Names{".hidden", "file", "to file"}));
+    EXPECT_EQ(Sorted(entries.folders), (Names{"sub", "to folder"}));
+}
+
+TEST_F(FileSystemTest, ALinkThatLeadsNowhereCountsAsAFile) {
     if (!test::MakeLink("nowhere", folder.Path("dangling")))
         GTEST_SKIP() << test::kNoLinks;
     const auto entries = Folder::Open(folder.Path(), error).Entries(error);
     EXPECT_FALSE(error);
-    EXPECT_EQ(NamesOf(entries.files), (Names{".hidden", "dangling", "file", "to file"}));
-    EXPECT_EQ(Sorted(entries.folders), (Names{"sub", "to folder"}));
+    EXPECT_EQ(NamesOf(entries.files), Names{"dangling"});
+    EXPECT_TRUE(entries.folders.empty());
 }
 
 TEST_F(FileSystemTest, AListingTellsRegularFilesFromLinks) {
     folder.Write("file", "");
     EXPECT_EQ(Folder::Open(folder.Path(), error).Entries(error).files[0].kind, FileKind::Regular);
-    if (!test::MakeLink("file", folder.Path("link")))
+    if (!test::CanTellLinks() || !test::MakeLink("file", folder.Path("link")))
         GTEST_SKIP() << test::kNoLinks;
     for (const FileEntry& file : Folder::Open(folder.Path(), error).Entries(error).files)
         EXPECT_EQ(file.kind, file.name == "link" ? FileKind::Unknown : FileKind::Regular);
@@ -77,21 +83,19 @@ TEST_F(FileSystemTest, OpeningWhatIsNoFolderFails) {
 }
 
 TEST_F(FileSystemTest, PathsAreJoinedByOneSeparator) {
-    EXPECT_EQ(JoinPath("/songs", "a.cpr"), "/songs/a.cpr");
-    EXPECT_EQ(JoinPath("/songs/", "a.cpr"), "/songs/a.cpr");
-    EXPECT_EQ(JoinPath("/", "a.cpr"), "/a.cpr");
+    const std::string songs = folder.Path("songs");
+    EXPECT_EQ(JoinPath(songs, "a.cpr"), folder.Path("songs/a.cpr"));
+    EXPECT_EQ(JoinPath(songs + "/", "a.cpr"), songs + "/a.cpr");
 }
 
 TEST_F(FileSystemTest, AFullPathKeepsItsLinksAndLosesWhatIsNoName) {
     folder.MakeFolder("real/sub");
     if (!test::MakeLink("real/sub", folder.Path("link")))
         GTEST_SKIP() << test::kNoLinks;
-    EXPECT_EQ(FullPath(folder.Path("link//./"), error), folder.Path("link"));
-    EXPECT_EQ(FullPath(folder.Path("link/../a"), error), folder.Path("real/a"));
+    EXPECT_EQ(FullPath(folder.Path("link") + "//./", error), folder.Path("link"));
     EXPECT_EQ(FullPath(folder.Path("gone/b.cpr"), error), folder.Path("gone/b.cpr"));
     EXPECT_EQ(FullPath("a.cpr", error),
               JoinPath(std::filesystem::current_path().string(), "a.cpr"));
-    EXPECT_EQ(FullPath("/", error), "/");
     EXPECT_FALSE(error);
 }
 
@@ -101,6 +105,13 @@ TEST_F(FileSystemTest, MovingIntoPlaceReplacesAFile) {
     EXPECT_FALSE(error);
     EXPECT_EQ(folder.Read("old"), "new");
     EXPECT_FALSE(folder.Exists("new"));
+}
+
+TEST_F(FileSystemTest, NothingMovesIntoThePlaceOfAFolder) {
+    folder.MakeFolder("old");
+    MoveIntoPlace(folder.Write("new", "new"), folder.Path("old"), error);
+    EXPECT_EQ(error, std::errc::is_a_directory);
+    EXPECT_EQ(folder.Read("new"), "new");
 }
 
 TEST_F(FileSystemTest, TheProgramsFolderHoldsTheRunningProgram) {
@@ -129,23 +140,6 @@ TEST_F(FileSystemTest, AMissingFileOrAFolderHasNoLastChange) {
     EXPECT_EQ(error, std::errc::no_such_file_or_directory);
     LastModified(std::string("a\0b", 3), error);
     EXPECT_EQ(error, std::errc::invalid_argument);
-}
-
-TEST(ParentPathTest, IsWhatStandsInFrontOfTheLastSeparator) {
-    EXPECT_EQ(ParentPath("/vst/Reverb.dll"), "/vst");
-    EXPECT_EQ(ParentPath("C:\\vst\\Reverb.dll"), "C:\\vst");
-    EXPECT_EQ(ParentPath("vst/Reverb.dll"), "vst");
-    EXPECT_EQ(ParentPath("/Reverb.dll"), "/");
-    EXPECT_EQ(ParentPath("\\Reverb.dll"), "");
-}
-
-TEST(ParentPathTest, APathWithoutSeparatorHasNone) {
-    EXPECT_EQ(ParentPath("Reverb.dll"), std::nullopt);
-    EXPECT_EQ(ParentPath(""), std::nullopt);
-}
-
-TEST(ParentPathTest, ABackslashInAPathFromTheRootIsACharacter) {
-    EXPECT_EQ(ParentPath("/vst/AC\\DC.dll"), "/vst");
 }
 
 }  // namespace

@@ -231,8 +231,8 @@ TEST_F(ProjectPluginsTest, APathWithANulByteIsLoggedAndFails) {
 }
 
 TEST_F(ProjectPluginsTest, APathWithAQuoteAndACommaGoesIntoTheRecordsAsItIs) {
-    Scan(kFront + PluginBytes({.name = "Echo"}), "a \"b\", c.cpr");
-    EXPECT_EQ(Keys(), Texts{Key("Echo", "VST    ", "a \"b\", c.cpr") + " On"});
+    Scan(kFront + PluginBytes({.name = "Echo"}), test::OddName());
+    EXPECT_EQ(Keys(), Texts{Key("Echo", "VST    ", test::OddName()) + " On"});
 }
 
 TEST_F(ProjectPluginsTest, NameBytesAreNeverConverted) {

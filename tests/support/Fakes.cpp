@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <sstream>
 
+#include "tests/support/TempFolder.h"
+
 namespace marlo::test {
 
 namespace {
@@ -43,7 +45,7 @@ std::string FakeClock::ShortDateText(const std::tm& moment) const {
 
 std::string FakeDesktop::FileTypeDescription(const std::string& path, platform::FileKind /*kind*/,
                                              std::error_code& error) const {
-    const std::filesystem::path file = path;
+    const std::filesystem::path file = PathOf(path);
     error.clear();
     if (unreadable.contains(file.filename().string()))
         error = std::make_error_code(std::errc::permission_denied);
@@ -66,7 +68,7 @@ int FakeDesktop::ShellExecute(const platform::ShellRequest& request) const {
 }
 
 std::string FakeDesktop::ShortPath(const std::string& path) const {
-    return std::filesystem::exists(path) ? "short:" + path : "";
+    return std::filesystem::exists(PathOf(path)) ? "short:" + path : "";
 }
 
 std::optional<platform::ShellIcon> FakeDesktop::SmallIcon(const std::string& path) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
 
 namespace marlo::test {
@@ -15,10 +16,20 @@ void ClearVariable(const std::string& name);
 bool CanChooseTimeZone();
 constexpr const char* kNoTimeZone = "local time is the same for the whole machine here";
 
+/// A name for a file with as much in it as a name can have here: a comma, quotes, and where they
+/// can be, a line end and a byte that is no text.
+std::string OddName();
+
 /// Makes a link to a file or folder. @param target from the link's folder on.
 /// @return false where this user cannot make any.
 bool MakeLink(const std::string& target, const std::string& path);
 constexpr const char* kNoLinks = "links cannot be made here";
+
+/// Whether the system tells a link from what it leads to.
+bool CanTellLinks();
+
+/// Deletes a folder with all that is in it, as far as it goes.
+void RemoveTree(const std::filesystem::path& folder);
 
 /// Whether a test can be an ordinary user, whom the permissions of files hold back.
 bool CanBeOrdinaryUser();
@@ -40,9 +51,9 @@ class FileSizeLimit {
 };
 constexpr const char* kNoFileSizeLimit = "the size of files cannot be limited here";
 
-/// Whether there are a Unix shell and terminals to start programs with.
+/// Whether programs can be started from a Unix shell and in terminals, and interrupted by a signal.
 bool HasUnixShell();
-constexpr const char* kNoUnixShell = "there is no Unix shell here";
+constexpr const char* kNoUnixShell = "there are no Unix shell, terminals and signals here";
 
 /// Makes this process an ordinary user for as long as it lives: the permissions of files, which a
 /// super-user passes by, count. Takes effect for this thread only.

@@ -7,6 +7,9 @@
 
 namespace marlo::test {
 
+/// A path for the standard library, which takes UTF-8 for something else on some systems.
+std::filesystem::path PathOf(const std::string& path);
+
 /// A new folder for one test, deleted with everything in it when the test ends.
 class TempFolder {
   public:
@@ -37,6 +40,8 @@ class TempFolder {
     bool Exists(const std::string& name) const;
 
   private:
+    std::filesystem::path Of(const std::string& name) const;
+
     std::filesystem::path path_;
 };
 

@@ -209,9 +209,9 @@ TEST_F(DoubleClickTest, APathsFolderIsOpenedInTheExplorer) {
 }
 
 TEST_F(DoubleClickTest, APathOfThisMachineHasAFolderToo) {
-    ShowPath("/vst/a folder; rm x/Reverb.dll");
+    ShowPath(folder.Path("a folder; rm x/Reverb.dll"));
     DoubleClick();
-    EXPECT_EQ(Request().parameters, "/vst/a folder; rm x");
+    EXPECT_EQ(Request().parameters, folder.Path("a folder; rm x"));
 }
 
 TEST_F(DoubleClickTest, APathWithoutFolderOrNoneAtAllDoesNothing) {

@@ -31,9 +31,22 @@ bool CanChooseTimeZone() {
     return true;
 }
 
+std::string OddName() {
+    return "Chorus, \"live\"\n\xE9";
+}
+
 bool MakeLink(const std::string& target, const std::string& path) {
     std::filesystem::create_symlink(target, path);
     return true;
+}
+
+bool CanTellLinks() {
+    return true;
+}
+
+void RemoveTree(const std::filesystem::path& folder) {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
 }
 
 bool CanBeOrdinaryUser() {

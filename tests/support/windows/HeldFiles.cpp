@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <windows.h>
 
+#include "tests/support/TempFolder.h"
+
 namespace marlo::test {
 
 struct HeldFiles::Hold {
@@ -23,9 +25,8 @@ struct HeldFiles::Hold {
 
 HeldFiles::HeldFiles(const std::vector<std::string>& paths) : hold_(std::make_unique<Hold>()) {
     for (const std::string& path : paths) {
-        const HANDLE handle =
-            CreateFileW(std::filesystem::path(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+        const HANDLE handle = CreateFileW(PathOf(path).c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                          nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
         if (handle == INVALID_HANDLE_VALUE)
             throw std::runtime_error("cannot hold " + path);
         hold_->handles[path] = handle;

@@ -7,6 +7,8 @@
 #include <utility>
 #include <windows.h>
 
+#include "tests/support/TempFolder.h"
+
 namespace marlo::test {
 
 namespace {
@@ -15,7 +17,7 @@ namespace {
 std::wstring Quoted(const std::string& argument) {
     std::wstring quoted = L"\"";
     std::size_t backslashes = 0;
-    for (const wchar_t c : std::filesystem::path(argument).wstring()) {
+    for (const wchar_t c : PathOf(argument).wstring()) {
         if (c == L'"')
             quoted.append(backslashes + 1, L'\\');
         backslashes = c == L'\\' ? backslashes + 1 : 0;
@@ -36,7 +38,7 @@ HANDLE StartProcess(const std::vector<std::string>& arguments, const std::string
     start.dwFlags = STARTF_USESTDHANDLES;
     start.hStdOutput = out;
     start.hStdError = error;
-    const std::wstring folder = std::filesystem::path(workingFolder).wstring();
+    const std::wstring folder = PathOf(workingFolder).wstring();
     PROCESS_INFORMATION process{};
     // A group of its own, so that it alone is interrupted.
     if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE,

@@ -5,35 +5,42 @@
 #include <stdexcept>
 #include <windows.h>
 
+#include "tests/support/TempFolder.h"
+
 namespace marlo::test {
 
 namespace {
 
-/// Wine makes no links, but can start the program of the system below that does.
-bool MakeLinkBelowWine(const std::filesystem::path& target, const std::filesystem::path& path) {
-    using UnixName = char*(CDECL*)(const wchar_t*);
-    const auto unixName = reinterpret_cast<UnixName>(reinterpret_cast<void*>(
+using UnixName = char*(CDECL*)(const wchar_t*);
+
+/// What tells a path's name in the system below Wine; nullptr on Windows.
+UnixName UnixNameFinder() {
+    return reinterpret_cast<UnixName>(reinterpret_cast<void*>(
         GetProcAddress(GetModuleHandleA("kernel32.dll"), "wine_get_unix_file_name")));
-    if (unixName == nullptr)
-        return false;
-    char* const folder = unixName(path.parent_path().c_str());
-    if (folder == nullptr)
-        return false;
-    std::wstring command = L"start.exe /wait /unix /bin/ln -s \"";
-    command += target.generic_wstring() + L"\" \"";
-    command += std::filesystem::path(folder).wstring() + L"/" + path.filename().wstring() + L"\"";
-    HeapFree(GetProcessHeap(), 0, folder);
+}
+
+std::wstring NameBelowWine(UnixName unixName, const std::filesystem::path& path) {
+    char* const name = unixName(path.c_str());
+    const std::wstring result = PathOf(name).generic_wstring();
+    HeapFree(GetProcessHeap(), 0, name);
+    return result;
+}
+
+/// Runs a program of the system below Wine, which can do with links what Wine cannot.
+void RunBelowWine(const std::wstring& command) {
+    std::wstring line = L"start.exe /wait /unix " + command;
     STARTUPINFOW start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION process{};
-    if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                       &start, &process) == FALSE)
-        return false;
+    if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                       &process) == FALSE)
+        return;
     WaitForSingleObject(process.hProcess, INFINITE);
     CloseHandle(process.hProcess);
     CloseHandle(process.hThread);
-    return true;
 }
+
+bool linksWereMade = false;
 
 }  // namespace
 
@@ -49,15 +56,39 @@ bool CanChooseTimeZone() {
     return false;
 }
 
+std::string OddName() {
+    return "Chorus, 'live'";
+}
+
 bool MakeLink(const std::string& target, const std::string& path) {
-    const std::filesystem::path link(path);
-    std::filesystem::path to(target);
-    to.make_preferred();
+    const std::filesystem::path link = PathOf(path);
+    const std::filesystem::path to = PathOf(target).make_preferred();
+    if (const UnixName unixName = UnixNameFinder()) {
+        // Wine shows no link that leads nowhere, but does not delete its folder either.
+        if (!std::filesystem::exists(link.parent_path() / to))
+            return false;
+        RunBelowWine(L"/bin/ln -s \"" + to.generic_wstring() + L"\" \"" +
+                     NameBelowWine(unixName, link.parent_path()) + L"/" +
+                     link.filename().wstring() + L"\"");
+        linksWereMade = true;
+        return true;
+    }
     const bool isFolder = std::filesystem::is_directory(link.parent_path() / to);
     constexpr DWORD allowOrdinaryUsers = 2;
     const DWORD flags = (isFolder ? SYMBOLIC_LINK_FLAG_DIRECTORY : 0) | allowOrdinaryUsers;
-    return CreateSymbolicLinkW(link.c_str(), to.c_str(), flags) != FALSE ||
-           MakeLinkBelowWine(to, link);
+    return CreateSymbolicLinkW(link.c_str(), to.c_str(), flags) != FALSE;
+}
+
+bool CanTellLinks() {
+    return UnixNameFinder() == nullptr;
+}
+
+void RemoveTree(const std::filesystem::path& folder) {
+    // Wine cannot delete a link to a folder.
+    if (const UnixName unixName = UnixNameFinder(); unixName != nullptr && linksWereMade)
+        RunBelowWine(L"/bin/rm -rf \"" + NameBelowWine(unixName, folder) + L"\"");
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
 }
 
 bool CanBeOrdinaryUser() {
