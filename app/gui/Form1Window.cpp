@@ -48,13 +48,18 @@ constexpr int kLater = 50;                 // milliseconds
 constexpr int kLargeIcon = 32;
 constexpr int kSmallIcon = 16;
 
+/// What is only looked at.
+class PictureView final : public wxWindow {
+  public:
+    bool AcceptsFocus() const override { return false; }
+};
+
 /// A window that shows a picture on a panel's picture.
 template <class PictureOf>
 wxWindow* CreatePictureView(PicturePanel* parent, const wxString& name, PictureOf pictureOf) {
-    auto* const view = new wxWindow;
+    auto* const view = new PictureView;
     view->SetBackgroundStyle(wxBG_STYLE_PAINT);
     view->Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE, name);
-    view->SetCanFocus(false);
     view->Bind(wxEVT_PAINT, [=](wxPaintEvent&) {
         wxAutoBufferedPaintDC dc(view);
         parent->PaintBehind(dc, view->GetPosition());

@@ -54,6 +54,11 @@ void PictureControl::SetAccessibleLabel(const wxString& label) {
     platform::SetAccessibleName(GetHandle(), platform::ControlRole::Button, label.utf8_string());
 }
 
+void PictureControl::DoEnable(bool enable) {
+    wxWindow::DoEnable(enable);
+    Refresh();  // not every system does that by itself
+}
+
 void PictureControl::Paint() {
     wxAutoBufferedPaintDC dc(this);
     panel_->PaintBehind(dc, GetPosition());

@@ -25,6 +25,7 @@ class PictureControl : public wxWindow {
     PicturePanel& Panel() const { return *panel_; }
 
   private:
+    void DoEnable(bool enable) override;
     void Paint();
     void Click();
 
