@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <map>
 #include <string_view>
 #include <utility>
@@ -11,8 +10,6 @@
 #include <wx/choice.h>
 #include <wx/dcbuffer.h>
 #include <wx/evtloop.h>
-#include <wx/iconbndl.h>
-#include <wx/log.h>
 #include <wx/settings.h>
 #include <wx/textctrl.h>
 
@@ -20,6 +17,7 @@
 #include "app/gui/MessageBox.h"
 #include "app/gui/OptionsDialog.h"
 #include "app/gui/Pictures.h"
+#include "app/gui/ProgramIcon.h"
 #include "app/gui/ResultListMenu.h"
 #include "app/gui/TextConversion.h"
 #include "app/gui/Theme.h"
@@ -43,10 +41,6 @@ const wxSize kPlacedLater(1, 1);
 
 constexpr double kSmallestItemFont = 0.8;  // of the desktop's usual one
 constexpr int kLater = 50;                 // milliseconds
-
-// The sizes of a window's icons, in pixels of the toolkit.
-constexpr int kLargeIcon = 32;
-constexpr int kSmallIcon = 16;
 
 /// What is only looked at.
 class PictureView final : public wxWindow {
@@ -484,27 +478,10 @@ std::string Form1Window::SearchText() const {
 }
 
 void Form1Window::SetProgramIcon(const std::string& path) {
-    Later([this, path] { ShowProgramIcon(path); });
-}
-
-void Form1Window::ShowProgramIcon(const std::string& path) {
-    const wxLogNull quiet;
-    std::error_code error;
-    const std::string found = platform::IsFile(path, error) ? path : Picture("plug_48x48.ico");
-    if (!platform::IsFile(found, error))
-        return;
-    wxIconBundle file;
-    file.AddIcon(ToolkitPath(found), wxBITMAP_TYPE_ICO);
-    // Only the two sizes that are asked for: all of them are more than a window manager likes.
-    wxIconBundle icons;
-    for (const int size : {kLargeIcon, kSmallIcon}) {
-        const int dots = static_cast<int>(std::lround(size * GetContentScaleFactor()));
-        const wxIcon icon = file.GetIcon(wxSize(dots, dots), wxIconBundle::FALLBACK_NEAREST_LARGER);
-        if (icon.IsOk())
-            icons.AddIcon(icon);
-    }
-    if (!icons.IsEmpty())
-        SetIcons(icons);
+    Later([this, path] {
+        std::error_code error;
+        ShowProgramIcon(*this, platform::IsFile(path, error) ? path : Picture("plug_48x48.ico"));
+    });
 }
 
 void Form1Window::Later(const std::function<void()>& action) {

@@ -85,7 +85,6 @@ class Form1Window final : public wxFrame, private FormView {
     void MoveFocusTo(wxWindow* control);
     void FollowFocus(const FormState& state);
     void PlaceInside(wxWindow* control, const marlo::Place& place, const wxPoint& origin) const;
-    void ShowProgramIcon(const std::string& path);
     std::string Picture(const std::string& name) const;
 
     const Application& application_;
