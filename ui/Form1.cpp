@@ -95,6 +95,11 @@ void Form1::Form_Resize() {
     });
 }
 
+void Form1::Form_ScaleChange() {
+    IgnoreFailures([&] { layout_ = DesignLayout(view_.Sizes()); });
+    Form_Resize();
+}
+
 bool Form1::Form_QueryUnload() {
     if (!isRunning_)
         return true;

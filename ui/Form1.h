@@ -40,6 +40,9 @@ class Form1 final : public MainWindow {
 
     /// Lays the window out for its size, unless it is minimised. Failures are ignored.
     void Form_Resize();
+    /// Lays the window out anew, on a screen where the view's lengths and texts have other sizes.
+    /// Failures are ignored.
+    void Form_ScaleChange();
 
     /// Whether the window may close. During a run it may not: the run is cancelled, asks and tells
     /// nothing any more, and the window closes when it has ended.

@@ -68,7 +68,8 @@ wxWindow* CreatePictureView(PicturePanel* parent, const wxString& name, PictureO
 wxPanel* CreatePane(wxWindow* parent, const wxString& name) {
     auto* const pane = new wxPanel;
     pane->SetBackgroundStyle(wxBG_STYLE_PAINT);
-    pane->Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, name);
+    pane->Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                 wxTAB_TRAVERSAL | wxFULL_REPAINT_ON_RESIZE, name);
     pane->Bind(wxEVT_PAINT, [pane](wxPaintEvent&) {
         wxAutoBufferedPaintDC dc(pane);
         dc.SetBackground(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
@@ -121,9 +122,13 @@ bool Form1Window::Show(bool show) {
         imgRightPane_->LoadPictures();
         btnDonate_->ShownPicture();
         cmdFind_->ShownPicture();
-        mark_ = LoadPicture(*image1_, Picture("menu_mark.svg"), image1_->GetClientSize());
+        LoadMark();
     }
     return hasChanged;
+}
+
+void Form1Window::LoadMark() {
+    mark_ = LoadPicture(*image1_, Picture("menu_mark.svg"), image1_->GetClientSize());
 }
 
 std::string Form1Window::Picture(const std::string& name) const {
@@ -137,7 +142,7 @@ void Form1Window::CreateControls() {
     background_->SetBackgroundStyle(wxBG_STYLE_SYSTEM);
     boxMenu_ = CreatePane(background_, "boxMenu");
     imgMenu_ = new PicturePanel(boxMenu_, "imgMenu", kMenuPaneDrawn);
-    label5_ = new PictureLabel(imgMenu_, "Label5", "       Menu", GetFont().Bold().Scaled(1.15F));
+    label5_ = new PictureLabel(imgMenu_, "Label5", "       Menu", HeadingFont());
     // Over the blanks of the label.
     image1_ = CreatePictureView(imgMenu_, "Image1", [this] { return mark_; });
     boxRightPane_ = CreatePane(background_, "boxRightPane");
@@ -189,6 +194,8 @@ void Form1Window::CreateSearchControls() {
     cboSearchType_ = new wxChoice(imgRightPane_, wxID_ANY, wxDefaultPosition, kPlacedLater, 0,
                                   nullptr, 0, wxDefaultValidator, "cboSearchType");
     platform::SetAccessibleName(cboSearchType_->GetHandle(), "Kind of match");
+    // Some systems tell what a list has besides its text only when there is room for that.
+    cboSearchType_->SetSize(scale_.Pixels(kCommandItemWidth, kCommandItemHeight));
     label3_ = new PictureLabel(imgRightPane_, "Label3", "Ignore Case:", GetFont());
     chkIgnoreCase_ = new wxCheckBox(imgRightPane_, wxID_ANY, "", wxDefaultPosition, kPlacedLater, 0,
                                     wxDefaultValidator, "chkIgnoreCase");
@@ -201,6 +208,10 @@ void Form1Window::CreateSearchControls() {
     lstSongs_ =
         new LedgerList(imgRightPane_, "lstSongs", form_.lstSongs(), kPlacedLater, wxBORDER_NONE);
     platform::SetAccessibleName(lstSongs_->GetHandle(), "Results");
+}
+
+wxFont Form1Window::HeadingFont() const {
+    return GetFont().Bold().Scaled(1.15F);
 }
 
 /// The items' places were drawn for small texts. They are as large as fits in there, but not much
@@ -233,7 +244,26 @@ void Form1Window::ApplyTheme() {
     txtSearchText_->SetForegroundColour(kTextOnLight);
 }
 
+/// The window is on a screen of another resolution.
+void Form1Window::FollowScreen() {
+    scale_ = TwipScale(*this);
+    const wxFont font = ItemFont();
+    for (CommandItemControl* const item : cmdbuttons_)
+        item->SetCaptionFont(font);
+    label5_->SetTextFont(HeadingFont());
+    label3_->SetTextFont(GetFont());
+    form_.Form_ScaleChange();
+    LoadMark();
+    for (IconBox& box : csvIcons_)
+        box.Redraw();
+    Refresh();
+}
+
 void Form1Window::BindEvents() {
+    Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
+        event.Skip();  // then the window gets its new size
+        FollowScreen();
+    });
     background_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         event.Skip();
         form_.Form_Resize();

@@ -73,8 +73,11 @@ class Form1Window final : public wxFrame, private FormView {
     void CreateControls();
     void CreateCommandItems();
     void CreateSearchControls();
+    wxFont HeadingFont() const;
     wxFont ItemFont() const;
+    void LoadMark();
     void ApplyTheme();
+    void FollowScreen();
     void BindEvents();
     void BindListEvents();
     void ShowListMenu();
