@@ -21,7 +21,7 @@ namespace marlo {
 class Form1 final : public MainWindow {
   public:
     /// @param helpSite what the paths of the help and donation pages are put behind: the address
-    ///        of a web site, or a folder.
+    ///        of a web site, or a folder, in which they get the system's separators.
     Form1(const Application& application, FormView& view, std::string helpSite);
 
     const FormState& State() const { return state_; }
