@@ -4,12 +4,13 @@
 #include <string>
 
 #include "core/Application.h"
+#include "platform/MessageBox.h"
 
 namespace marlo {
 
-enum class MessageButtons { Ok, OkCancel, YesNo, YesNoCancel };
-enum class MessageIcon { None, Information, Exclamation, Question };
-enum class MessageAnswer { None, Ok, Cancel, Yes, No };
+using platform::MessageAnswer;
+using platform::MessageButtons;
+using platform::MessageIcon;
 
 /// A message box. It goes by the application's title unless it has a title of its own; an empty
 /// one is a title too.

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "core/Application.h"
+#include "platform/Pickers.h"
 
 namespace marlo {
 
@@ -20,20 +20,7 @@ struct FileRequest {
     std::uint32_t flags = 0;  ///< those that the picker gave back
 };
 
-/// The platform's own record of a file to open.
-struct OpenFileName {
-    static constexpr std::uint32_t kHideReadOnly = 0x4;
-    static constexpr std::uint32_t kFileMustExist = 0x1000;
-    static constexpr std::size_t kBufferSize = 260;  ///< bytes
-
-    std::string filter;  ///< descriptions and patterns in turn, a NUL behind each, two at the end
-    std::int32_t filterIndex = 0;  ///< 1-based
-    std::string file;              ///< `kBufferSize` bytes, padded with NULs
-    std::string fileTitle;         ///< the same
-    std::string initialFolder;
-    std::string title;
-    std::uint32_t flags = 0;
-};
+using platform::OpenFileName;
 
 /// The platform's picker of a file to open, shown over the window that owns it.
 class FileChooser {

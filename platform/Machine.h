@@ -17,6 +17,9 @@ const Clock& SystemClock();
 const Desktop& SystemDesktop();
 Registry& SystemRegistry();
 
+/// Whether registries are Wine prefixes here.
+bool HasWinePrefixes();
+
 /// The registry of a Wine prefix.
 /// @param folder the prefix's folder, which holds "system.reg".
 /// @return nothing, and `error` set, when there is none that can be read.

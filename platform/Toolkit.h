@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace marlo::platform {
@@ -18,6 +20,10 @@ void ShortenWayToArrows();
 
 /// How much larger than the screen's resolution calls for the user wants texts: 1 for not at all.
 double TextScale();
+
+/// The system's colour of the shadow of buttons, which is the grey of texts in a list too: blue in
+/// the high byte, red in the low one. Nothing where the program has a grey of its own for those.
+std::optional<std::int32_t> ButtonShadowColour();
 
 /// Sends the display what was asked of it and is still being collected.
 void FlushDisplay();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <utility>
 
 #include "core/ErrorLog.h"
@@ -11,6 +12,7 @@
 #include "inventory/FileAssociation.h"
 #include "inventory/InstalledPlugins.h"
 #include "inventory/VstFolders.h"
+#include "platform/FileSystem.h"
 #include "reports/Ledger.h"
 #include "reports/ReportView.h"
 #include "scan/SearchRun.h"
@@ -33,6 +35,20 @@ const std::vector<std::string>& SearchTypes() {
     static const std::vector<std::string> types = {match_type::kExact, match_type::kStartsWith,
                                                    match_type::kEndsWith, match_type::kContains};
     return types;
+}
+
+/// A page of a web site, or of one in a folder.
+std::string PageOf(const std::string& site, std::string_view path) {
+    if (site.find("://") != std::string::npos)
+        return site + std::string(path);
+    std::string page = site;
+    while (!path.empty()) {
+        path.remove_prefix(1);
+        const std::string_view name = path.substr(0, path.find('/'));
+        page = platform::JoinPath(page, name);
+        path.remove_prefix(name.size());
+    }
+    return page;
 }
 
 template <class Body>
@@ -93,6 +109,11 @@ void Form1::Form_Resize() {
         if (pane_.lstSongs.RowCount() > 0)
             SetListViewLedger(kLedgerBar1, kLedgerBar2, ledger::kIcons);
     });
+}
+
+void Form1::Form_ScaleChange() {
+    IgnoreFailures([&] { layout_ = DesignLayout(view_.Sizes()); });
+    Form_Resize();
 }
 
 bool Form1::Form_QueryUnload() {
@@ -165,7 +186,7 @@ void Form1::ShowReport(const char* kind) {
 }
 
 int Form1::OpenPage(const char* path) const {
-    return application_.desktop.ShellExecute({.file = helpSite_ + path});
+    return application_.desktop.ShellExecute({.file = PageOf(helpSite_, path)});
 }
 
 void Form1::ShowHelp() {

@@ -21,7 +21,7 @@ namespace marlo {
 class Form1 final : public MainWindow {
   public:
     /// @param helpSite what the paths of the help and donation pages are put behind: the address
-    ///        of a web site, or a folder.
+    ///        of a web site, or a folder, in which they get the system's separators.
     Form1(const Application& application, FormView& view, std::string helpSite);
 
     const FormState& State() const { return state_; }
@@ -40,6 +40,9 @@ class Form1 final : public MainWindow {
 
     /// Lays the window out for its size, unless it is minimised. Failures are ignored.
     void Form_Resize();
+    /// Lays the window out anew, on a screen where the view's lengths and texts have other sizes.
+    /// Failures are ignored.
+    void Form_ScaleChange();
 
     /// Whether the window may close. During a run it may not: the run is cancelled, asks and tells
     /// nothing any more, and the window closes when it has ended.

@@ -164,13 +164,14 @@ class CommandLine {
             [this](const Environment& environment) {
                 return RunInstalled(environment, installed_);
             });
-        command
-            ->add_option_function<std::string>(
-                "--wine-prefix",
-                [this](const std::string& folder) { installed_.winePrefix = folder; },
-                "The Wine prefix whose DirectX plug-ins are listed (default: WINEPREFIX, else "
-                "~/.wine)")
-            ->type_name("DIR");
+        if (platform::HasWinePrefixes())
+            command
+                ->add_option_function<std::string>(
+                    "--wine-prefix",
+                    [this](const std::string& folder) { installed_.winePrefix = folder; },
+                    "The Wine prefix whose DirectX plug-ins are listed (default: WINEPREFIX, else "
+                    "~/.wine)")
+                ->type_name("DIR");
         command->add_flag("--progress", installed_.showProgress, kProgressHelp);
     }
 

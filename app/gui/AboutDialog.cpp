@@ -46,11 +46,20 @@ AboutDialog::AboutDialog(wxWindow* mainWindow, const std::string& picture) {
     texts->Add(version, wxSizerFlags().Border(wxTOP, pixels(4)));
     texts->Add(description, wxSizerFlags().Border(wxTOP, pixels(12)));
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
-    const wxBitmap image = LoadPicture(*this, picture, wxSize(pixels(96), pixels(96)));
-    if (image.IsOk())
-        row->Add(new wxStaticBitmap(this, wxID_ANY, image, wxDefaultPosition, wxDefaultSize, 0,
-                                    "Image1"),
-                 wxSizerFlags().CentreVertical().Border(wxRIGHT, pixels(20)));
+    const auto load = [this, picture] {
+        const int side = DesignPixels(*this, 96);
+        return LoadPicture(*this, picture, wxSize(side, side));
+    };
+    const wxBitmap image = load();
+    if (image.IsOk()) {
+        auto* const shown = new wxStaticBitmap(this, wxID_ANY, image, wxDefaultPosition,
+                                               wxDefaultSize, 0, "Image1");
+        row->Add(shown, wxSizerFlags().CentreVertical().Border(wxRIGHT, pixels(20)));
+        Bind(wxEVT_DPI_CHANGED, [=, this](wxDPIChangedEvent& event) {
+            event.Skip();
+            shown->SetBitmap(load());
+        });
+    }
     row->Add(texts, wxSizerFlags(1).CentreVertical());
 
     auto* const ok = new wxButton(this, wxID_OK, "OK", wxDefaultPosition, wxDefaultSize, 0,

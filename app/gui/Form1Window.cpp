@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <map>
 #include <string_view>
 #include <utility>
@@ -11,8 +10,6 @@
 #include <wx/choice.h>
 #include <wx/dcbuffer.h>
 #include <wx/evtloop.h>
-#include <wx/iconbndl.h>
-#include <wx/log.h>
 #include <wx/settings.h>
 #include <wx/textctrl.h>
 
@@ -20,6 +17,7 @@
 #include "app/gui/MessageBox.h"
 #include "app/gui/OptionsDialog.h"
 #include "app/gui/Pictures.h"
+#include "app/gui/ProgramIcon.h"
 #include "app/gui/ResultListMenu.h"
 #include "app/gui/TextConversion.h"
 #include "app/gui/Theme.h"
@@ -44,17 +42,18 @@ const wxSize kPlacedLater(1, 1);
 constexpr double kSmallestItemFont = 0.8;  // of the desktop's usual one
 constexpr int kLater = 50;                 // milliseconds
 
-// The sizes of a window's icons, in pixels of the toolkit.
-constexpr int kLargeIcon = 32;
-constexpr int kSmallIcon = 16;
+/// What is only looked at.
+class PictureView final : public wxWindow {
+  public:
+    bool AcceptsFocus() const override { return false; }
+};
 
 /// A window that shows a picture on a panel's picture.
 template <class PictureOf>
 wxWindow* CreatePictureView(PicturePanel* parent, const wxString& name, PictureOf pictureOf) {
-    auto* const view = new wxWindow;
+    auto* const view = new PictureView;
     view->SetBackgroundStyle(wxBG_STYLE_PAINT);
     view->Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE, name);
-    view->SetCanFocus(false);
     view->Bind(wxEVT_PAINT, [=](wxPaintEvent&) {
         wxAutoBufferedPaintDC dc(view);
         parent->PaintBehind(dc, view->GetPosition());
@@ -69,7 +68,8 @@ wxWindow* CreatePictureView(PicturePanel* parent, const wxString& name, PictureO
 wxPanel* CreatePane(wxWindow* parent, const wxString& name) {
     auto* const pane = new wxPanel;
     pane->SetBackgroundStyle(wxBG_STYLE_PAINT);
-    pane->Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, name);
+    pane->Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                 wxTAB_TRAVERSAL | wxFULL_REPAINT_ON_RESIZE, name);
     pane->Bind(wxEVT_PAINT, [pane](wxPaintEvent&) {
         wxAutoBufferedPaintDC dc(pane);
         dc.SetBackground(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
@@ -122,9 +122,13 @@ bool Form1Window::Show(bool show) {
         imgRightPane_->LoadPictures();
         btnDonate_->ShownPicture();
         cmdFind_->ShownPicture();
-        mark_ = LoadPicture(*image1_, Picture("menu_mark.svg"), image1_->GetClientSize());
+        LoadMark();
     }
     return hasChanged;
+}
+
+void Form1Window::LoadMark() {
+    mark_ = LoadPicture(*image1_, Picture("menu_mark.svg"), image1_->GetClientSize());
 }
 
 std::string Form1Window::Picture(const std::string& name) const {
@@ -138,7 +142,7 @@ void Form1Window::CreateControls() {
     background_->SetBackgroundStyle(wxBG_STYLE_SYSTEM);
     boxMenu_ = CreatePane(background_, "boxMenu");
     imgMenu_ = new PicturePanel(boxMenu_, "imgMenu", kMenuPaneDrawn);
-    label5_ = new PictureLabel(imgMenu_, "Label5", "       Menu", GetFont().Bold().Scaled(1.15F));
+    label5_ = new PictureLabel(imgMenu_, "Label5", "       Menu", HeadingFont());
     // Over the blanks of the label.
     image1_ = CreatePictureView(imgMenu_, "Image1", [this] { return mark_; });
     boxRightPane_ = CreatePane(background_, "boxRightPane");
@@ -190,6 +194,8 @@ void Form1Window::CreateSearchControls() {
     cboSearchType_ = new wxChoice(imgRightPane_, wxID_ANY, wxDefaultPosition, kPlacedLater, 0,
                                   nullptr, 0, wxDefaultValidator, "cboSearchType");
     platform::SetAccessibleName(cboSearchType_->GetHandle(), "Kind of match");
+    // Some systems tell what a list has besides its text only when there is room for that.
+    cboSearchType_->SetSize(scale_.Pixels(kCommandItemWidth, kCommandItemHeight));
     label3_ = new PictureLabel(imgRightPane_, "Label3", "Ignore Case:", GetFont());
     chkIgnoreCase_ = new wxCheckBox(imgRightPane_, wxID_ANY, "", wxDefaultPosition, kPlacedLater, 0,
                                     wxDefaultValidator, "chkIgnoreCase");
@@ -202,6 +208,10 @@ void Form1Window::CreateSearchControls() {
     lstSongs_ =
         new LedgerList(imgRightPane_, "lstSongs", form_.lstSongs(), kPlacedLater, wxBORDER_NONE);
     platform::SetAccessibleName(lstSongs_->GetHandle(), "Results");
+}
+
+wxFont Form1Window::HeadingFont() const {
+    return GetFont().Bold().Scaled(1.15F);
 }
 
 /// The items' places were drawn for small texts. They are as large as fits in there, but not much
@@ -234,7 +244,26 @@ void Form1Window::ApplyTheme() {
     txtSearchText_->SetForegroundColour(kTextOnLight);
 }
 
+/// The window is on a screen of another resolution.
+void Form1Window::FollowScreen() {
+    scale_ = TwipScale(*this);
+    const wxFont font = ItemFont();
+    for (CommandItemControl* const item : cmdbuttons_)
+        item->SetCaptionFont(font);
+    label5_->SetTextFont(HeadingFont());
+    label3_->SetTextFont(GetFont());
+    form_.Form_ScaleChange();
+    LoadMark();
+    for (IconBox& box : csvIcons_)
+        box.Redraw();
+    Refresh();
+}
+
 void Form1Window::BindEvents() {
+    Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
+        event.Skip();  // then the window gets its new size
+        FollowScreen();
+    });
     background_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         event.Skip();
         form_.Form_Resize();
@@ -479,27 +508,10 @@ std::string Form1Window::SearchText() const {
 }
 
 void Form1Window::SetProgramIcon(const std::string& path) {
-    Later([this, path] { ShowProgramIcon(path); });
-}
-
-void Form1Window::ShowProgramIcon(const std::string& path) {
-    const wxLogNull quiet;
-    std::error_code error;
-    const std::string found = platform::IsFile(path, error) ? path : Picture("plug_48x48.ico");
-    if (!platform::IsFile(found, error))
-        return;
-    wxIconBundle file;
-    file.AddIcon(ToolkitPath(found), wxBITMAP_TYPE_ICO);
-    // Only the two sizes that are asked for: all of them are more than a window manager likes.
-    wxIconBundle icons;
-    for (const int size : {kLargeIcon, kSmallIcon}) {
-        const int dots = static_cast<int>(std::lround(size * GetContentScaleFactor()));
-        const wxIcon icon = file.GetIcon(wxSize(dots, dots), wxIconBundle::FALLBACK_NEAREST_LARGER);
-        if (icon.IsOk())
-            icons.AddIcon(icon);
-    }
-    if (!icons.IsEmpty())
-        SetIcons(icons);
+    Later([this, path] {
+        std::error_code error;
+        ShowProgramIcon(*this, platform::IsFile(path, error) ? path : Picture("plug_48x48.ico"));
+    });
 }
 
 void Form1Window::Later(const std::function<void()>& action) {

@@ -73,8 +73,11 @@ class Form1Window final : public wxFrame, private FormView {
     void CreateControls();
     void CreateCommandItems();
     void CreateSearchControls();
+    wxFont HeadingFont() const;
     wxFont ItemFont() const;
+    void LoadMark();
     void ApplyTheme();
+    void FollowScreen();
     void BindEvents();
     void BindListEvents();
     void ShowListMenu();
@@ -85,7 +88,6 @@ class Form1Window final : public wxFrame, private FormView {
     void MoveFocusTo(wxWindow* control);
     void FollowFocus(const FormState& state);
     void PlaceInside(wxWindow* control, const marlo::Place& place, const wxPoint& origin) const;
-    void ShowProgramIcon(const std::string& path);
     std::string Picture(const std::string& name) const;
 
     const Application& application_;

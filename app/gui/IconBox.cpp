@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kSmallIconSize = 16;  // design pixels
 
-wxBitmap PictureOf(const platform::ShellIcon& icon, const wxSize& size) {
+wxBitmap PictureOf(const platform::ShellIcon& icon, const wxWindow& window, const wxSize& size) {
     wxImage picture(icon.width, icon.height, false);
     picture.InitAlpha();
     const unsigned char* dot = icon.dots.data();
@@ -23,22 +23,33 @@ wxBitmap PictureOf(const platform::ShellIcon& icon, const wxSize& size) {
             picture.SetRGB(x, y, dot[0], dot[1], dot[2]);
             picture.SetAlpha(x, y, dot[3]);
         }
-    return {picture.Scale(size.x, size.y, wxIMAGE_QUALITY_HIGH)};
+    wxBitmap bitmap(picture.Scale(size.x, size.y, wxIMAGE_QUALITY_HIGH));
+    bitmap.SetScaleFactor(window.GetDPIScaleFactor());  // else lists enlarge it once more
+    return bitmap;
 }
 
 }  // namespace
 
 void IconBox::Clear() {
+    icon_.reset();
     picture_ = wxBitmap();
     if (onChange)
         onChange();
 }
 
 void IconBox::Draw(const platform::ShellIcon& icon) {
+    icon_ = icon;
+    Redraw();
+}
+
+void IconBox::Redraw() {
+    if (!icon_)
+        return;
+    const platform::ShellIcon& icon = *icon_;
     const int side = DesignPixels(window_, kSmallIconSize);
     const wxSize size(side, side);
     if (!icon.dots.empty())
-        picture_ = PictureOf(icon, size);
+        picture_ = PictureOf(icon, window_, size);
     else if (icon.name.starts_with('/'))
         picture_ = LoadPicture(window_, icon.name, size);
     else

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <wx/bitmap.h>
 
 #include "dialogs/GetIcons.h"
@@ -18,6 +19,9 @@ class IconBox final : public PictureBox {
     void Clear() override;
     void Draw(const platform::ShellIcon& icon) override;
 
+    /// Draws the picture again, for a screen that has changed.
+    void Redraw();
+
     /// Invalid while the box is empty.
     const wxBitmap& Picture() const { return picture_; }
 
@@ -26,6 +30,7 @@ class IconBox final : public PictureBox {
 
   private:
     const wxWindow& window_;
+    std::optional<platform::ShellIcon> icon_;
     wxBitmap picture_;
 };
 

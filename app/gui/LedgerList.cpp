@@ -48,6 +48,17 @@ LedgerList::LedgerList(wxWindow* parent, const wxString& name, const ResultList&
       hasHeader_((style & wxLC_NO_HEADER) == 0),
       shownRevision_(rows.Revision() - 1) {
     RemoveLedger();
+    Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
+        event.Skip();
+        ForgetSizes();
+    });
+}
+
+/// Has the columns and the rows measured again when they are fitted next.
+void LedgerList::ForgetSizes() {
+    fittedWidths_.clear();
+    spacerHeight_ = 0;
+    triedRowHeight_ = 0;
 }
 
 void LedgerList::ShowRows(int sortedColumn) {

@@ -48,6 +48,7 @@ class LedgerList final : public wxListCtrl {
     void ShowHeaders();
     void ShowSelection();
     void SetRowHeight(int pixels);
+    void ForgetSizes();
 
     const ResultList& rows_;
     const bool hasHeader_;  // once there are columns

@@ -111,10 +111,9 @@ wxWindow* OptionsDialog::CreateCsvTab() {
     imgcboPath_ = new wxBitmapComboBox(page, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0,
                                        nullptr, wxCB_READONLY, wxDefaultValidator, "imgcboPath");
     imgcboPath_->SetMinSize(wxSize(Pixels(200), -1));
-    platform::SetAccessibleName(imgcboPath_->GetHandle(), "Csv App");
     cmdTab2Search_ = CreateButton(page, "cmdTab2Search", "Browse...");
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(imgcboPath_, wxSizerFlags(1).CentreVertical());
+    row->Add(imgcboPath_, wxSizerFlags(1).Expand());
     row->Add(cmdTab2Search_, wxSizerFlags().CentreVertical().Border(wxLEFT, Pixels(8)));
     auto* const all = new wxBoxSizer(wxVERTICAL);
     all->Add(row, wxSizerFlags().Expand().Border(wxALL, Pixels(12)));
@@ -197,6 +196,10 @@ void OptionsDialog::BindEvents() {
                        [this](wxCommandEvent& event) { logic_.SetIgnoreDX(event.IsChecked()); });
     chkIgnoreOff_->Bind(wxEVT_CHECKBOX,
                         [this](wxCommandEvent& event) { logic_.SetIgnoreOff(event.IsChecked()); });
+    Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
+        event.Skip();
+        CallAfter(&OptionsDialog::FollowScreen);  // in its new size
+    });
     lstPaths_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         event.Skip();
         lstPaths_->AutoSizeColumns();
@@ -211,14 +214,30 @@ void OptionsDialog::Show(const OptionsState& state) {
     imgcboPath_->Clear();
     imgcboPath_->Append(Shown(state.imgcboPath), wxBitmapBundle(Picture1_.Picture()));
     imgcboPath_->SetSelection(0);
+    // Some systems make such a control anew for items of another height.
+    platform::SetAccessibleName(imgcboPath_->GetHandle(), "Csv App");
     chkIgnoreDX_->SetValue(state.chkIgnoreDX);
     chkIgnoreOff_->SetValue(state.chkIgnoreOff);
     ShowText(label1_, state.Label1);
     text1_->ChangeValue(Shown(state.Text1));
     ShowText(label7_, state.Label7);
     ShowText(label2_, state.Label2);
+    LayOut();
+}
+
+/// The toolkit lays a page out when its size changes, and not when a text in it does.
+void OptionsDialog::LayOut() {
     label2_->Wrap(Pixels(460));
     Layout();
+    for (std::size_t i = 0; i < tabs_->GetPageCount(); ++i)
+        tabs_->GetPage(i)->Layout();
+}
+
+/// The dialog is on a screen of another resolution.
+void OptionsDialog::FollowScreen() {
+    Picture1_.Redraw();
+    Show(logic_.State());
+    ShadePaths();
 }
 
 void OptionsDialog::ShadePaths() {

@@ -43,6 +43,8 @@ class OptionsDialog final : public wxDialog, private OptionsView {
     wxWindow* CreateGeneralTab();
     wxWindow* CreateLogTab();
     void BindEvents();
+    void LayOut();
+    void FollowScreen();
     int Pixels(int designPixels) const;
 
     FolderPicker folders_;

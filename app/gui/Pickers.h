@@ -7,7 +7,7 @@ class wxWindow;
 
 namespace marlo::gui {
 
-/// The toolkit's folder picker.
+/// The system's folder picker where it has one, else the toolkit's.
 class FolderPicker final : public FolderChooser {
   public:
     explicit FolderPicker(wxWindow* owner) : owner_(owner) {}
@@ -17,8 +17,8 @@ class FolderPicker final : public FolderChooser {
     wxWindow* owner_;
 };
 
-/// The toolkit's picker of a file to open. Besides what the filter lets through it offers all
-/// files, as programs have no extension everywhere.
+/// The system's picker of a file to open where it has one, else the toolkit's; that one offers all
+/// files besides what the filter lets through, as programs have no extension everywhere.
 class FilePicker final : public FileChooser {
   public:
     FilePicker(wxWindow* owner, const Application& application)

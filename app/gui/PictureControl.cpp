@@ -11,7 +11,8 @@ namespace marlo::gui {
 
 PictureControl::PictureControl(PicturePanel* parent, const wxString& name) : panel_(parent) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
-    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxWANTS_CHARS, name);
+    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+           wxBORDER_NONE | wxWANTS_CHARS | wxFULL_REPAINT_ON_RESIZE, name);
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
     Bind(wxEVT_SET_CURSOR,
          [this](wxSetCursorEvent& event) { event.SetCursor(panel_->HandCursor()); });
@@ -23,21 +24,7 @@ PictureControl::PictureControl(PicturePanel* parent, const wxString& name) : pan
         panel_->MarkFocus(nullptr);
         event.Skip();
     });
-    Bind(wxEVT_MOTION, [this](wxMouseEvent&) {
-        if (onMouseMove)
-            onMouseMove();
-    });
-    Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) {
-        SetFocus();
-        isPressed_ = true;
-    });
-    Bind(wxEVT_LEFT_DCLICK, [this](wxMouseEvent&) { isPressed_ = true; });
-    Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
-        const bool isClick =
-            std::exchange(isPressed_, false) && GetClientRect().Contains(event.GetPosition());
-        if (isClick)
-            Click();
-    });
+    BindMouse();
     Bind(wxEVT_CHAR, [this](wxKeyEvent& event) {
         const int key = event.GetKeyCode();
         if (key == WXK_RETURN || key == WXK_NUMPAD_ENTER || key == WXK_SPACE)
@@ -48,6 +35,51 @@ PictureControl::PictureControl(PicturePanel* parent, const wxString& name) : pan
         else
             event.Skip();
     });
+}
+
+void PictureControl::BindMouse() {
+    Bind(wxEVT_MOTION, [this](wxMouseEvent& event) {
+        if (onMouseMove && GetClientRect().Contains(event.GetPosition()))
+            onMouseMove();
+    });
+    Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent&) {
+        SetFocus();
+        Press();
+    });
+    Bind(wxEVT_LEFT_DCLICK, [this](wxMouseEvent&) { Press(); });
+    Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
+        const bool isClick = isPressed_ && GetClientRect().Contains(event.GetPosition());
+        LetGo();
+        if (isClick)
+            Click();
+    });
+    Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { isPressed_ = false; });
+}
+
+/// The mouse may leave the control before the button is released.
+void PictureControl::Press() {
+    isPressed_ = true;
+    if (!HasCapture())
+        CaptureMouse();
+}
+
+void PictureControl::LetGo() {
+    isPressed_ = false;
+    if (HasCapture())
+        ReleaseMouse();
+}
+
+bool PictureControl::Show(bool show) {
+    if (!show)
+        LetGo();
+    return wxWindow::Show(show);
+}
+
+void PictureControl::DoEnable(bool enable) {
+    if (!enable)
+        LetGo();
+    wxWindow::DoEnable(enable);
+    Refresh();  // not every system does that by itself
 }
 
 void PictureControl::SetAccessibleLabel(const wxString& label) {
@@ -85,6 +117,12 @@ void CommandItemControl::SetCaption(const wxString& caption) {
     Refresh();
 }
 
+void CommandItemControl::SetCaptionFont(const wxFont& font) {
+    font_ = font;
+    naturalSize_ = Panel().TextSize(caption_, font);
+    Refresh();
+}
+
 void CommandItemControl::SetHovered(bool isHovered) {
     if (isHovered == isHovered_)
         return;
@@ -107,8 +145,9 @@ void CommandItemControl::Draw(wxDC& dc) {
         dc.SetBrush(background_);
         dc.DrawRectangle(area);
     }
-    dc.SetFont(isHovered_ && IsEnabled() ? font_.Underlined() : font_);
-    dc.SetTextForeground(IsEnabled() ? enabledColour_ : disabledColour_);
+    // A dialog in front disables the window, which is not to be seen.
+    dc.SetFont(isHovered_ && IsThisEnabled() ? font_.Underlined() : font_);
+    dc.SetTextForeground(IsThisEnabled() ? enabledColour_ : disabledColour_);
     DrawText(dc, caption_, 0, (area.height - naturalSize_.y) / 2);
 }
 
@@ -122,7 +161,7 @@ PictureButton::PictureButton(PicturePanel* parent, const wxString& name, const w
 
 const wxBitmap& PictureButton::ShownPicture() {
     const wxSize size = GetClientSize();
-    Picture& shown = pictures_[IsEnabled() ? 1 : 0];
+    Picture& shown = pictures_[IsThisEnabled() ? 1 : 0];
     if (shown.loadedFor != size) {
         shown.loadedFor = size;
         shown.bitmap = LoadPicture(*this, shown.path, size);

@@ -16,6 +16,8 @@ class PictureControl : public wxWindow {
     std::function<void()> onClick;
     std::function<void()> onMouseMove;
 
+    bool Show(bool show = true) override;
+
   protected:
     PictureControl(PicturePanel* parent, const wxString& name);
 
@@ -25,7 +27,11 @@ class PictureControl : public wxWindow {
     PicturePanel& Panel() const { return *panel_; }
 
   private:
+    void DoEnable(bool enable) override;
+    void BindMouse();
     void Paint();
+    void Press();
+    void LetGo();
     void Click();
 
     PicturePanel* panel_;
@@ -42,6 +48,7 @@ class CommandItemControl final : public PictureControl {
                        const wxFont& font, const wxSize& naturalSize, bool hasWindowBackground);
 
     void SetCaption(const wxString& caption);
+    void SetCaptionFont(const wxFont& font);
     void SetHovered(bool isHovered);
     void SetColours(const wxColour& enabled, const wxColour& disabled, const wxColour& background);
     /// A size that is enough for the caption.

@@ -25,6 +25,10 @@ PicturePanel::PicturePanel(wxWindow* parent, const wxString& name, int drawnWidt
     SetBackgroundStyle(wxBG_STYLE_PAINT);
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, name);
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        Refresh();  // the controls on it too
+    });
 }
 
 void PicturePanel::Paint() {
@@ -56,6 +60,8 @@ const wxCursor& PicturePanel::HandCursor() {
 
 void PicturePanel::SetPictures(const Ground& ground, std::vector<Piece> pieces) {
     ground_ = ground;
+    // For controls that are transparent in the eyes of their users only.
+    SetBackgroundColour(ground.topHeight > 0 ? ground.top : ground.rest);
     pieces_ = std::move(pieces);
     loadedFor_ = 0;
     Refresh();
@@ -105,18 +111,25 @@ wxSize PicturePanel::TextSize(const wxString& text, const wxFont& font) {
 
 PictureLabel::PictureLabel(PicturePanel* parent, const wxString& name, const wxString& text,
                            const wxFont& font)
-    : text_(text), font_(font), textSize_(parent->TextSize(text, font)) {
+    : panel_(parent), text_(text), font_(font), textSize_(parent->TextSize(text, font)) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
-    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE, name);
+    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+           wxBORDER_NONE | wxFULL_REPAINT_ON_RESIZE, name);
     platform::SetAccessibleName(GetHandle(), platform::ControlRole::Text,
                                 wxString(text).Trim(false).utf8_string());
-    Bind(wxEVT_PAINT, [this, parent](wxPaintEvent&) {
+    Bind(wxEVT_PAINT, [this](wxPaintEvent&) {
         wxAutoBufferedPaintDC dc(this);
-        parent->PaintBehind(dc, GetPosition());
+        panel_->PaintBehind(dc, GetPosition());
         dc.SetFont(font_);
         dc.SetTextForeground(colour_);
         DrawText(dc, text_, 0, (GetClientSize().y - textSize_.y) / 2);
     });
+}
+
+void PictureLabel::SetTextFont(const wxFont& font) {
+    font_ = font;
+    textSize_ = panel_->TextSize(text_, font);
+    Refresh();
 }
 
 void PictureLabel::SetColour(const wxColour& colour) {

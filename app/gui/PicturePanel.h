@@ -71,12 +71,14 @@ class PictureLabel final : public wxWindow {
     PictureLabel(PicturePanel* parent, const wxString& name, const wxString& text,
                  const wxFont& font);
 
+    void SetTextFont(const wxFont& font);
     void SetColour(const wxColour& colour);
     wxSize TextSize() const { return textSize_; }
 
     bool AcceptsFocus() const override { return false; }
 
   private:
+    PicturePanel* panel_;
     wxString text_;
     wxFont font_;
     wxSize textSize_;

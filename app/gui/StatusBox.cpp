@@ -19,7 +19,8 @@ constexpr int kPadding = 6;  // design pixels
 
 StatusBox::StatusBox(wxWindow* parent, const wxString& name) {
     SetBackgroundStyle(wxBG_STYLE_PAINT);
-    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE, name);
+    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+           wxBORDER_NONE | wxFULL_REPAINT_ON_RESIZE, name);
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
 }
 

@@ -18,12 +18,7 @@ inline std::string FieldOf(const wxString& text) {
 }
 
 /// A path as the toolkit takes it, and back; any path that the file system has comes through.
-inline wxString ToolkitPath(const std::string& path) {
-    return {path.c_str(), *wxConvFileName};
-}
-inline std::string PathOf(const wxString& path) {
-    const auto bytes = path.mb_str(*wxConvFileName);
-    return {bytes.data(), bytes.length()};
-}
+wxString ToolkitPath(const std::string& path);
+std::string PathOf(const wxString& path);
 
 }  // namespace marlo::gui

@@ -1,7 +1,9 @@
 #include "app/gui/Theme.h"
 
+#include <cstdint>
 #include <wx/settings.h>
 
+#include "platform/Toolkit.h"
 #include "ui/Contrast.h"
 
 namespace marlo::gui {
@@ -11,8 +13,9 @@ namespace {
 const wxColour kLightSearchBar(0xE6, 0xEF, 0xFC);
 const wxColour kDarkSearchBar(0x32, 0x3C, 0x4B);
 
-// The bands of a list are light in every theme, so its grey is no theme's.
-const wxColour kGreyedRow(0x6B, 0x6B, 0x6B);
+// The bands of a list are light in every theme, so its grey is no theme's; some systems have one
+// for it.
+constexpr std::int32_t kGreyedRow = 0x6B6B6B;
 
 Rgb RgbOf(const wxColour& colour) {
     return {colour.Red(), colour.Green(), colour.Blue()};
@@ -49,7 +52,7 @@ Theme ReadTheme() {
     theme.itemOnSearchBar = ItemColour(theme.searchBar);
     theme.rightPane = theme.isDark ? wxColour(0x2D, 0x2F, 0x33) : wxColour(0xF4, 0xF8, 0xFE);
     theme.paneFrame = theme.isDark ? wxColour(0x47, 0x4D, 0x57) : wxColour(0xC3, 0xD0, 0xE4);
-    theme.greyedRow = kGreyedRow;
+    theme.greyedRow = ColourOf(platform::ButtonShadowColour().value_or(kGreyedRow));
     return theme;
 }
 

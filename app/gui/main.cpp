@@ -1,6 +1,6 @@
 #include <exception>
-#include <iostream>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <system_error>
 
@@ -9,6 +9,7 @@
 #include "app/gui/Form1Window.h"
 #include "app/gui/GuiApp.h"
 #include "core/ErrorLog.h"
+#include "platform/Announce.h"
 #include "platform/FileSystem.h"
 #include "platform/Machine.h"
 
@@ -51,7 +52,7 @@ class MarloApp final : public GuiApp {
 };
 
 int Complain(const std::string& text) {
-    std::cerr << "marlo: " << text << '\n';
+    platform::Announce(platform::Stream::Error, "marlo: " + text + "\n");
     return 1;
 }
 
@@ -93,17 +94,25 @@ int RunCommandLine(int argc, char** argv) {
                     "The application folder, with settings.ini and resultfiles in it (default: the "
                     "program's own folder)")
         ->type_name("DIR");
-    commandLine
-        .add_option("--wine-prefix", options.winePrefix,
-                    "The Wine prefix whose DirectX plug-ins are listed (default: WINEPREFIX, else "
-                    "~/.wine)")
-        ->type_name("DIR");
+    if (platform::HasWinePrefixes())
+        commandLine
+            .add_option("--wine-prefix", options.winePrefix,
+                        "The Wine prefix whose DirectX plug-ins are listed (default: WINEPREFIX, "
+                        "else ~/.wine)")
+            ->type_name("DIR");
     commandLine.footer("The terminal program is marlo-cli.");
     try {
         commandLine.parse(argc, argv);
     } catch (const CLI::ParseError& ending) {
+        std::ostringstream answer;
+        std::ostringstream complaint;
+        const bool isAnswer = commandLine.exit(ending, answer, complaint) == 0;
+        if (isAnswer)
+            platform::Announce(platform::Stream::Out, answer.str());
+        else
+            platform::Announce(platform::Stream::Error, complaint.str());
         constexpr int wrongUsage = 2;
-        return commandLine.exit(ending) == 0 ? 0 : wrongUsage;
+        return isAnswer ? 0 : wrongUsage;
     }
     return Run(options, argv[0]);
 }
@@ -116,7 +125,6 @@ int main(int argc, char** argv) {
     try {
         return marlo::gui::RunCommandLine(argc, argv);
     } catch (const std::exception& failure) {
-        std::cerr << "marlo: " << failure.what() << '\n';
-        return 1;
+        return marlo::gui::Complain(failure.what());
     }
 }

@@ -23,6 +23,10 @@ Registry& SystemRegistry() {
     return prefix;
 }
 
+bool HasWinePrefixes() {
+    return true;
+}
+
 std::unique_ptr<Registry> OpenWinePrefix(const std::string& folder, std::error_code& error) {
     File::OpenForReading(JoinPath(folder, "system.reg"), error);
     return error ? nullptr : std::make_unique<WinePrefix>(folder);

@@ -50,6 +50,10 @@ double TextScale() {
     return resolution > 0 ? resolution / usual : 1;
 }
 
+std::optional<std::int32_t> ButtonShadowColour() {
+    return std::nullopt;  // a theme's is a background's
+}
+
 void FlushDisplay() {
     gdk_display_flush(gdk_display_get_default());
 }

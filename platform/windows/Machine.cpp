@@ -21,6 +21,10 @@ Registry& SystemRegistry() {
     return registry;
 }
 
+bool HasWinePrefixes() {
+    return false;
+}
+
 std::unique_ptr<Registry> OpenWinePrefix(const std::string& /*folder*/, std::error_code& error) {
     error = std::make_error_code(std::errc::function_not_supported);
     return nullptr;

@@ -71,12 +71,24 @@ void AddDot(std::vector<unsigned char>& dots, std::uint32_t onBlack, std::uint32
     dots.push_back(static_cast<unsigned char>(std::clamp(opacity, 0, full)));
 }
 
+/// @return the shell's own list of images; nullptr when it knows no image for the file.
+HIMAGELIST SystemImages(const std::string& path, SHFILEINFOA& info) {
+    const auto ask = [&](UINT flags) {
+        return reinterpret_cast<HIMAGELIST>(
+            SHGetFileInfoA(path.c_str(), 0, &info, sizeof info, flags));
+    };
+    const HIMAGELIST images = ask(kIconFlags);
+    // Some shells tell the kind of a program alone or not at all.
+    return images == nullptr ? ask(kIconFlags & ~SHGFI_EXETYPE) : images;
+}
+
 }  // namespace
 
 std::optional<ShellIcon> DrawnSmallIcon(const std::string& path) {
+    if (path.empty())
+        return std::nullopt;  // some shells take it for the working folder
     SHFILEINFOA info{};
-    auto* const list = reinterpret_cast<HIMAGELIST>(
-        SHGetFileInfoA(path.c_str(), 0, &info, sizeof info, kIconFlags));
+    const HIMAGELIST list = SystemImages(path, info);
     ShellIcon icon;
     if (list == nullptr || ImageList_GetIconSize(list, &icon.width, &icon.height) == FALSE)
         return std::nullopt;

@@ -4,7 +4,9 @@
 // clang-format off
 #include <windows.h>
 #include <commctrl.h>
+#include <commdlg.h>
 #include <shellapi.h>
+#include <shlobj.h>
 // clang-format on
 
 // Names of ours that the headers would replace.

@@ -43,6 +43,10 @@ double TextScale() {
     return 1;  // it is a part of the screen's resolution
 }
 
+std::optional<std::int32_t> ButtonShadowColour() {
+    return static_cast<std::int32_t>(GetSysColor(COLOR_BTNSHADOW));
+}
+
 void FlushDisplay() {
     GdiFlush();
 }

@@ -30,6 +30,8 @@ std::optional<std::string> FakeFolderChooser::ChooseFolder(const FolderRequest& 
     requests.push_back(request);
     if (failure)
         std::rethrow_exception(failure);
+    if (onShow)
+        onShow(request);
     return answer;
 }
 

@@ -26,6 +26,8 @@ class FakeFolderChooser final : public FolderChooser {
     std::vector<FolderRequest> requests;
     /// What the user chooses; nothing for a cancel.
     std::optional<std::string> answer;
+    /// Called while the picker is shown, so that a test can do what happens in it.
+    std::function<void(const FolderRequest&)> onShow;
     /// Thrown, if set.
     std::exception_ptr failure;
 };

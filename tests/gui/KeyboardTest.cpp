@@ -55,6 +55,14 @@ TEST_F(KeyboardTest, LockedItemsArePassedBy) {
     EXPECT_EQ(Steps(WXK_TAB, wxMOD_NONE, 2), (Texts{Name(1), Name(8)}));
 }
 
+TEST_F(KeyboardTest, WhatIsOnlyLookedAtNeverGetsTheFocus) {
+    Open();
+    for (const char* name : {"Image1", "Label5", "Label3", "Text1"}) {
+        ClickAt(Find(name), {2, 2});
+        EXPECT_EQ(FocusedName(), "txtSearchText") << name;
+    }
+}
+
 TEST_F(KeyboardTest, EnterAndSpacePressAnItem) {
     Open();
     Item(kSearchModeItem).SetFocus();

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Settings.h"
+#include "platform/FileSystem.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/ReportTest.h"
 #include "tests/ui/FakeFormView.h"
@@ -18,7 +19,7 @@
 namespace marlo {
 namespace {
 
-constexpr const char* kHelpSite = "/help";
+constexpr const char* kHelpSite = "https://marlo.example";
 
 class Form1Test : public test::ReportTest {
   protected:
@@ -312,7 +313,7 @@ TEST_F(Form1ClickTest, HelpOpensItsPage) {
     ASSERT_EQ(desktop.shellRequests.size(), 1U);
     const platform::ShellRequest& request = desktop.shellRequests[0];
     EXPECT_EQ(request.verb, "Open");
-    EXPECT_EQ(request.file, "/help/2006/10/table-of-contents.html");
+    EXPECT_EQ(request.file, "https://marlo.example/2006/10/table-of-contents.html");
     EXPECT_EQ(request.parameters, "");
     EXPECT_EQ(request.folder, "0");
     EXPECT_EQ(request.showState, 1);
@@ -513,6 +514,16 @@ TEST_F(Form1ResizeTest, ShadingMakesTheListVisible) {
     EXPECT_TRUE(form.lstSongs().IsVisible());
 }
 
+TEST_F(Form1ResizeTest, OnAScreenOfAnotherScaleTheWindowIsLaidOutForTheSizesThere) {
+    view.sizes.cboSearchType = {1200, 400};
+    form.Form_Resize();
+    EXPECT_NE(view.layout.cboSearchType.width, 1200)
+        << "sizes are asked for when the scale changes";
+    form.Form_ScaleChange();
+    EXPECT_EQ(view.layout.cboSearchType.width, 1200);
+    EXPECT_EQ(view.layout.lstSongs.Right(), view.client.width - 345);
+}
+
 TEST_F(Form1ResizeTest, TheMenuEndsBelowTheDonateButtonUntilItsMinuteHasPassed) {
     for (int second = 1; second < 60; ++second)
         form.Timer1_Timer();
@@ -543,10 +554,20 @@ using Form1DonateTest = Form1Test;
 TEST_F(Form1DonateTest, TheDonateButtonOpensItsPage) {
     form.btnDonate_Click();
     ASSERT_EQ(desktop.shellRequests.size(), 1U);
-    EXPECT_EQ(desktop.shellRequests[0].file, "/help/2006/10/donate.html");
+    EXPECT_EQ(desktop.shellRequests[0].file, "https://marlo.example/2006/10/donate.html");
     EXPECT_EQ(desktop.shellRequests[0].parameters, "");
     EXPECT_EQ(desktop.shellRequests[0].folder, "0");
     EXPECT_TRUE(view.messages.empty());
+}
+
+TEST_F(Form1DonateTest, APageOfASiteInAFolderIsOpenedByItsPath) {
+    const std::string site = folder.Path("site");
+    Form1 offline{application, view, site};
+    offline.btnDonate_Click();
+    ASSERT_EQ(desktop.shellRequests.size(), 1U);
+    EXPECT_EQ(desktop.shellRequests[0].file,
+              platform::JoinPath(platform::JoinPath(platform::JoinPath(site, "2006"), "10"),
+                                 "donate.html"));
 }
 
 TEST_F(Form1DonateTest, APageThatCannotBeOpenedIsToldWithAWarning) {
