@@ -4,7 +4,7 @@
 PACKAGES := packaging/install-packages
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-.PHONY: help run build test test-sanitizer test-windows bench package package-windows \
+.PHONY: help run build test test-sanitizer test-windows bench bench-windows package package-windows \
 	screenshots pictures format lint clean
 
 help: ## List the targets
@@ -47,6 +47,12 @@ bench: ## Measure speed against baselines from the same run
 	build/release/bench/marlo-bench
 	tests/gui/with-display build/release/bench/marlo-bench-window \
 		--benchmark_enable_random_interleaving=true
+
+bench-windows: ## Measure the extraction of the Windows program under Wine
+	@$(PACKAGES) build windows windows64
+	@packaging/windows/configure windows64 -D MARLO_BENCHMARKS=ON
+	@cmake --build --preset windows64 --target marlo-extraction-speed
+	@tests/windows/with-wine wine build/windows64/bench/marlo-extraction-speed.exe
 
 package: ## Pack the programs for Linux, ready to be unpacked and run
 	@$(PACKAGES) build package
