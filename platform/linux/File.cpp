@@ -54,20 +54,6 @@ struct File::Mode {
     int flags;
 };
 
-File::File(File&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
-
-File& File::operator=(File&& other) noexcept {
-    if (this != &other) {
-        Close();
-        handle_ = std::exchange(other.handle_, -1);
-    }
-    return *this;
-}
-
-File::~File() {
-    Close();
-}
-
 void File::Close() noexcept {
     if (handle_ >= 0)
         close(std::exchange(handle_, -1));
