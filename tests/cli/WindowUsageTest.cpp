@@ -22,7 +22,7 @@ class WindowUsageTest : public test::CliTest {
 TEST_F(WindowUsageTest, HelpAndVersionNeedNoDisplay) {
     const auto help = MarloWindow({"--help"});
     EXPECT_EQ(help.exitCode, 0);
-    for (const std::string option : {"--app-folder DIR", "--wine-prefix DIR", "--version"})
+    for (const std::string option : {"--app-folder DIR", "--version"})
         EXPECT_NE(help.out.find(option), std::string::npos) << help.out;
     const auto version = MarloWindow({"--version"});
     EXPECT_EQ(version.exitCode, 0);

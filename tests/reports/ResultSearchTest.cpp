@@ -212,7 +212,7 @@ TEST_F(ResultSearchTest, AProjectWithACommaInItsNameShiftsTheFieldsBehindIt) {
 }
 
 TEST_F(ResultSearchTest, AProjectInAJapaneseFolderIsFoundAndDated) {
-    const std::string project = Project("曲 🎹/R\xE9.cpr");
+    const std::string project = Project("曲 🎹/Ré.cpr");
     WriteUses({{project, "R\xE9verb", "VST", "On"}});
     EXPECT_EQ(Find("Réverb").front().cells, (Texts{project, kDate, "R\xE9verb", "VST", "On"}));
 }

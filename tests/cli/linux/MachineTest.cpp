@@ -100,6 +100,10 @@ class WindowMachineTest : public test::CliTest {
     }
 };
 
+TEST_F(WindowMachineTest, AWinePrefixMayBeNamed) {
+    EXPECT_NE(MarloWindow({"--help"}).out.find("--wine-prefix DIR"), std::string::npos);
+}
+
 TEST_F(WindowMachineTest, AMissingWinePrefixIsSaid) {
     const auto result =
         MarloWindow({"--app-folder", folder.Path("app"), "--wine-prefix", folder.Path("gone")});

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <stdexcept>
 #include <windows.h>
 
@@ -26,18 +27,22 @@ std::wstring NameBelowWine(UnixName unixName, const std::filesystem::path& path)
     return result;
 }
 
-/// Runs a program of the system below Wine, which can do with links what Wine cannot.
-void RunBelowWine(const std::wstring& command) {
-    std::wstring line = L"start.exe /wait /unix " + command;
+/// Runs a program of the system below Wine, which can do with links what Wine cannot. Wine does not
+/// always tell when it has ended.
+void RunBelowWine(const std::wstring& command, const std::function<bool()>& isDone) {
+    std::wstring line = L"start.exe /unix " + command;
     STARTUPINFOW start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION process{};
     if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
                        &process) == FALSE)
         return;
-    WaitForSingleObject(process.hProcess, INFINITE);
     CloseHandle(process.hProcess);
     CloseHandle(process.hThread);
+    constexpr DWORD interval = 2;  // milliseconds
+    constexpr int patience = 5000;
+    for (int i = 0; i < patience && !isDone(); ++i)
+        Sleep(interval);
 }
 
 bool linksWereMade = false;
@@ -68,8 +73,9 @@ bool MakeLink(const std::string& target, const std::string& path) {
         if (!std::filesystem::exists(link.parent_path() / to))
             return false;
         RunBelowWine(L"/bin/ln -s \"" + to.generic_wstring() + L"\" \"" +
-                     NameBelowWine(unixName, link.parent_path()) + L"/" +
-                     link.filename().wstring() + L"\"");
+                         NameBelowWine(unixName, link.parent_path()) + L"/" +
+                         link.filename().wstring() + L"\"",
+                     [&] { return std::filesystem::exists(link); });
         linksWereMade = true;
         return true;
     }
@@ -86,7 +92,8 @@ bool CanTellLinks() {
 void RemoveTree(const std::filesystem::path& folder) {
     // Wine cannot delete a link to a folder.
     if (const UnixName unixName = UnixNameFinder(); unixName != nullptr && linksWereMade)
-        RunBelowWine(L"/bin/rm -rf \"" + NameBelowWine(unixName, folder) + L"\"");
+        RunBelowWine(L"/bin/rm -rf \"" + NameBelowWine(unixName, folder) + L"\"",
+                     [&] { return !std::filesystem::exists(folder); });
     std::error_code ignored;
     std::filesystem::remove_all(folder, ignored);
 }
