@@ -1,0 +1,75 @@
+#include "tests/platform/windows/DialogAnswer.h"
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace marlo::test {
+
+namespace {
+
+/// A timer's routine gets nothing but its number.
+DialogAnswer* current = nullptr;
+
+HWND OpenDialog() {
+    HWND found = nullptr;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM data) {
+            constexpr std::string_view dialogClass = "#32770";
+            std::array<char, 16> name{};
+            GetClassNameA(window, name.data(), static_cast<int>(name.size()));
+            if (name.data() != dialogClass || IsWindowVisible(window) == FALSE)
+                return TRUE;
+            *reinterpret_cast<HWND*>(data) = window;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+}  // namespace
+
+DialogAnswer::DialogAnswer(std::function<void(HWND)> answer)
+    : answer_(std::move(answer)), timer_(SetTimer(nullptr, 0, 50, Look)) {
+    current = this;
+}
+
+DialogAnswer::~DialogAnswer() {
+    KillTimer(nullptr, timer_);
+    current = nullptr;
+}
+
+void DialogAnswer::Look(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
+    const HWND dialog = OpenDialog();
+    if (dialog != nullptr && current->answer_)
+        std::exchange(current->answer_, nullptr)(dialog);
+}
+
+void Press(HWND dialog, int button) {
+    PostMessageA(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
+}
+
+std::string TextOf(HWND window) {
+    std::array<char, 1000> text{};
+    SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    return text.data();
+}
+
+bool Shows(HWND dialog, const std::string& text) {
+    struct Search {
+        const std::string& text;
+        bool isFound = false;
+    } search{text};
+    EnumChildWindows(
+        dialog,
+        [](HWND window, LPARAM data) {
+            auto& wanted = *reinterpret_cast<Search*>(data);
+            wanted.isFound = wanted.isFound || TextOf(window) == wanted.text;
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.isFound;
+}
+
+}  // namespace marlo::test
