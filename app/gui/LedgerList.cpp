@@ -50,12 +50,14 @@ LedgerList::LedgerList(wxWindow* parent, const wxString& name, const ResultList&
     RemoveLedger();
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
         event.Skip();
-        ForgetSizes();
+        FollowScreen();
     });
 }
 
-/// Has the columns and the rows measured again when they are fitted next.
-void LedgerList::ForgetSizes() {
+/// The list is on a screen of another resolution. Columns and rows are measured again when they are
+/// fitted next.
+void LedgerList::FollowScreen() {
+    SetFont(GetFont());  // the toolkit lets a list keep the one that it was made with
     fittedWidths_.clear();
     spacerHeight_ = 0;
     triedRowHeight_ = 0;

@@ -48,7 +48,7 @@ class LedgerList final : public wxListCtrl {
     void ShowHeaders();
     void ShowSelection();
     void SetRowHeight(int pixels);
-    void ForgetSizes();
+    void FollowScreen();
 
     const ResultList& rows_;
     const bool hasHeader_;  // once there are columns

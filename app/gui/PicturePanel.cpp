@@ -42,7 +42,10 @@ void PicturePanel::Paint() {
 }
 
 wxRect PicturePanel::RingOf(const wxWindow& control) const {
-    return control.GetRect().Inflate(DesignPixels(*this, 3));
+    // An item may reach to the panel's edge.
+    return control.GetRect()
+        .Inflate(DesignPixels(*this, 3))
+        .Intersect(GetClientRect().Deflate(DesignPixels(*this, 1)));
 }
 
 void PicturePanel::MarkFocus(wxWindow* control) {

@@ -32,7 +32,7 @@ GuiTest::~GuiTest() {
 }
 
 void GuiTest::Open() {
-    window_ = new gui::Form1Window(application, "/help");
+    window_ = new gui::Form1Window(application, "https://marlo.example");
     window_->Show();
     window_->Bind(wxEVT_DESTROY, [this](wxWindowDestroyEvent& event) {
         event.Skip();

@@ -38,7 +38,7 @@ class PagesTest : public test::GuiTest {
 
 TEST_F(PagesTest, HelpOpensItsPage) {
     Click(Item(kHelp));
-    ExpectRequest("/help/2006/10/table-of-contents.html");
+    ExpectRequest("https://marlo.example/2006/10/table-of-contents.html");
 }
 
 TEST_F(PagesTest, AHelpPageThatCannotBeShownIsTold) {
@@ -49,7 +49,7 @@ TEST_F(PagesTest, AHelpPageThatCannotBeShownIsTold) {
 
 TEST_F(PagesTest, DonateOpensItsPage) {
     Click(Find("btnDonate"));
-    ExpectRequest("/help/2006/10/donate.html");
+    ExpectRequest("https://marlo.example/2006/10/donate.html");
 }
 
 TEST_F(PagesTest, ADonationPageThatCannotBeShownIsTold) {
