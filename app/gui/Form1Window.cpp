@@ -353,6 +353,7 @@ void Form1Window::OnClose(wxCloseEvent& event) {
         return;
     }
     form_.Form_Unload();
+    KeepCopiedRows();
     Destroy();
 }
 

@@ -49,6 +49,10 @@ void CopySelectedRows(const LedgerList& list, const ResultList& rows) {
     wxTheClipboard->Close();
 }
 
+void KeepCopiedRows() {
+    wxTheClipboard->Flush();
+}
+
 void ShowResultListMenu(LedgerList& list, Form1& form) {
     const bool hasSelection = list.ActivePosition() > 0;
     wxMenu menu;
