@@ -49,6 +49,10 @@ std::optional<ShellIcon> WindowsDesktop::SmallIcon(const std::string& path) cons
 }
 
 int WindowsDesktop::ShellExecute(const ShellRequest& request) const {
+    // What stands in front of a NUL is something else.
+    for (const std::string* const text : {&request.file, &request.parameters, &request.folder})
+        if (text->find('\0') != std::string::npos)
+            return ERROR_FILE_NOT_FOUND;
     const HINSTANCE answer =
         ShellExecuteA(nullptr, request.verb.c_str(), request.file.c_str(),
                       request.parameters.c_str(), request.folder.c_str(), request.showState);

@@ -119,9 +119,8 @@ TEST_F(FileSystemTest, TheProgramsFolderHoldsTheRunningProgram) {
 }
 
 TEST_F(FileSystemTest, AFilesLastChangeIsInLocalTimeInWinterAndInSummer) {
-    if (!test::CanChooseTimeZone())
-        GTEST_SKIP() << test::kNoTimeZone;
-    test::SetVariable("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+    if (!test::MoveToCentralEurope())
+        GTEST_SKIP() << test::kNoCentralEurope;
     const auto hourOf = [&](std::time_t moment) {
         const std::string path = folder.Write("file", "");
         folder.SetLastChange("file", moment);

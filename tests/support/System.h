@@ -12,9 +12,10 @@ namespace marlo::test {
 void SetVariable(const std::string& name, const std::string& value);
 void ClearVariable(const std::string& name);
 
-/// Whether "TZ" decides what local time is in this process, and not the machine.
-bool CanChooseTimeZone();
-constexpr const char* kNoTimeZone = "local time is the same for the whole machine here";
+/// Makes local time that of central Europe.
+/// @return false where it stays what it was when the process began.
+bool MoveToCentralEurope();
+constexpr const char* kNoCentralEurope = "needs to be started with TZ=Europe/Berlin here";
 
 /// A name for a file with as much in it as a name can have here: a comma, quotes, and where they
 /// can be, a line end and a byte that is no text.

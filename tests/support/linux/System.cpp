@@ -27,7 +27,8 @@ void ClearVariable(const std::string& name) {
     tzset();
 }
 
-bool CanChooseTimeZone() {
+bool MoveToCentralEurope() {
+    SetVariable("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <stdexcept>
+#include <string_view>
 #include <windows.h>
 
 #include "tests/support/TempFolder.h"
@@ -57,8 +58,9 @@ void ClearVariable(const std::string& name) {
     _putenv_s(name.c_str(), "");
 }
 
-bool CanChooseTimeZone() {
-    return false;
+bool MoveToCentralEurope() {
+    const char* const zone = std::getenv("TZ");
+    return zone != nullptr && std::string_view(zone) == "Europe/Berlin";
 }
 
 std::string OddName() {
