@@ -1,9 +1,11 @@
 #include "platform/Pickers.h"
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <string>
 
+#include "platform/WideText.h"
 #include "platform/windows/System.h"
 
 namespace marlo::platform {
@@ -15,6 +17,20 @@ constexpr std::size_t kChosenPathSize = 512;  // bytes
 struct ItemDeleter {
     void operator()(ITEMIDLIST* item) const { CoTaskMemFree(item); }
 };
+
+/// @param bufferSize of the buffer for the path, at least MAX_PATH bytes.
+/// @return the path as it stands there; empty when the item is not in the file system.
+std::string PathOf(PCIDLIST_ABSOLUTE item, std::size_t bufferSize) {
+    std::string path(bufferSize, '\0');
+    if (SHGetPathFromIDListA(item, path.data()) == FALSE)
+        return {};
+    // It never takes more than MAX_PATH bytes, which are few characters of some languages.
+    constexpr std::size_t surelyWhole = MAX_PATH - 4;
+    std::array<wchar_t, MAX_PATH> wide{};
+    if (path.find('\0') > surelyWhole && SHGetPathFromIDListW(item, wide.data()) != FALSE)
+        return NarrowText(wide.data());
+    return path;
+}
 
 /// What a `BROWSEINFOA`'s callback is called about.
 class BrowsedFolder final : public OpenFolderPicker {
@@ -28,8 +44,8 @@ class BrowsedFolder final : public OpenFolderPicker {
         SendMessageA(window_, BFFM_SETSTATUSTEXTA, 0, reinterpret_cast<LPARAM>(text.c_str()));
     }
     std::string SelectedPath() const override {
-        std::array<char, MAX_PATH> path{};
-        return SHGetPathFromIDListA(item_, path.data()) == FALSE ? "" : path.data();
+        const std::string path = PathOf(item_, MAX_PATH);
+        return path.substr(0, path.find('\0'));
     }
 
   private:
@@ -83,9 +99,7 @@ std::optional<std::string> ChooseFolder(void* owner, const FolderRequest& reques
     const std::unique_ptr<ITEMIDLIST, ItemDeleter> item(SHBrowseForFolderA(&info));
     if (!item)
         return std::nullopt;
-    std::string path(kChosenPathSize, '\0');
-    SHGetPathFromIDListA(item.get(), path.data());
-    return path;
+    return PathOf(item.get(), kChosenPathSize);
 }
 
 bool ChooseFile(void* owner, OpenFileName& record) {
@@ -102,7 +116,13 @@ bool ChooseFile(void* owner, OpenFileName& record) {
     info.lpstrInitialDir = TextOrNone(record.initialFolder);
     info.lpstrTitle = TextOrNone(record.title);
     info.Flags = record.flags;
-    if (GetOpenFileNameA(&info) == FALSE)
+    BOOL isChosen = GetOpenFileNameA(&info);
+    if (isChosen == FALSE && CommDlgExtendedError() == FNERR_INVALIDFILENAME) {
+        // What is proposed cannot be a file's name; another one can still be chosen.
+        std::fill(record.file.begin(), record.file.end(), '\0');
+        isChosen = GetOpenFileNameA(&info);
+    }
+    if (isChosen == FALSE)
         return false;
     record.flags = info.Flags;
     record.filterIndex = static_cast<std::int32_t>(info.nFilterIndex);

@@ -50,6 +50,21 @@ void Press(HWND dialog, int button) {
     PostMessageA(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
 }
 
+bool WaitUntil(const std::function<bool()>& isSo) {
+    const ULONGLONG end = GetTickCount64() + 10000;
+    while (!isSo()) {
+        if (GetTickCount64() > end)
+            return false;
+        MSG message{};
+        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+            TranslateMessage(&message);
+            DispatchMessageA(&message);
+        }
+        Sleep(10);
+    }
+    return true;
+}
+
 std::string TextOf(HWND window) {
     std::array<char, 1000> text{};
     SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));

@@ -29,6 +29,10 @@ class DialogAnswer {
 /// Presses a button of a dialog. @param button IDOK, IDCANCEL and so on.
 void Press(HWND dialog, int button);
 
+/// Lets events run until something is so, or for as long as a slow machine may take.
+/// @return whether it is.
+bool WaitUntil(const std::function<bool()>& isSo);
+
 std::string TextOf(HWND window);
 
 /// Whether a control of a dialog shows a text.

@@ -18,17 +18,6 @@ class PickersTest : public testing::Test {
 
     static std::string Cut(const std::string& text) { return text.substr(0, text.find('\0')); }
 
-    /// Gives time to what happens in a dialog, and then presses a button.
-    static void PressLater(HWND dialog, int button) {
-        for (int i = 0; i < 20; ++i) {
-            MSG message{};
-            while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != FALSE)
-                DispatchMessageA(&message);
-            Sleep(10);
-        }
-        test::Press(dialog, button);
-    }
-
     test::TempFolder folder;
 };
 
@@ -50,7 +39,7 @@ TEST_F(PickersTest, TheFolderThatTheCallbackSelectsIsChosenAndItsPathShown) {
     };
     const test::DialogAnswer answer([&](HWND dialog) {
         EXPECT_TRUE(test::Shows(dialog, "Which folder?"));
-        isPathShown = test::Shows(dialog, "It is " + songs);
+        isPathShown = test::WaitUntil([&] { return test::Shows(dialog, "It is " + songs); });
         test::Press(dialog, IDOK);
     });
     const auto chosen = ChooseFolder(nullptr, request);
@@ -61,6 +50,29 @@ TEST_F(PickersTest, TheFolderThatTheCallbackSelectsIsChosenAndItsPathShown) {
     ASSERT_FALSE(selected.empty());
     EXPECT_EQ(selected.back(), songs);
     EXPECT_TRUE(isPathShown);
+}
+
+TEST_F(PickersTest, APathOfManyBytesIsChosenWhole) {
+    std::string name;
+    for (int i = 0; i < 30; ++i)
+        name += "\xC3\xA9";
+    const std::string songs = folder.MakeFolder(name + "/" + name + "/" + name);
+    FolderRequest request{.title = "Which folder?", .flags = FolderRequest::kOnlyFolders};
+    std::string selected;
+    request.callback = [&](BrowseMessage message, OpenFolderPicker& picker) {
+        if (message == BrowseMessage::Initialized)
+            picker.SetSelection(songs);
+        else
+            selected = picker.SelectedPath();
+    };
+    const test::DialogAnswer answer([&](HWND dialog) {
+        test::WaitUntil([&] { return selected == songs; });
+        test::Press(dialog, IDOK);
+    });
+    const auto chosen = ChooseFolder(nullptr, request);
+    ASSERT_TRUE(chosen);
+    EXPECT_GT(songs.size(), std::size_t{MAX_PATH});
+    EXPECT_EQ(Cut(*chosen), songs);
 }
 
 TEST_F(PickersTest, AFolderPickerWithoutACallbackMayBeCancelled) {
@@ -90,7 +102,7 @@ TEST_F(FilePickerTest, TheProposedFileIsChosen) {
     std::string title;
     const test::DialogAnswer answer([&](HWND dialog) {
         title = test::TextOf(dialog);
-        PressLater(dialog, IDOK);
+        test::Press(dialog, IDOK);
     });
     ASSERT_TRUE(ChooseFile(nullptr, record));
     EXPECT_EQ(title, "Which program?");
@@ -103,14 +115,14 @@ TEST_F(FilePickerTest, TheProposedFileIsChosen) {
 TEST_F(FilePickerTest, TheWorkingFolderStaysWhatItIs) {
     const std::filesystem::path before = std::filesystem::current_path();
     OpenFileName record = RecordFor(folder.Write("Programs/sheets.exe", "MZ"));
-    const test::DialogAnswer answer([](HWND dialog) { PressLater(dialog, IDOK); });
+    const test::DialogAnswer answer([](HWND dialog) { test::Press(dialog, IDOK); });
     ASSERT_TRUE(ChooseFile(nullptr, record));
     EXPECT_EQ(std::filesystem::current_path(), before);
 }
 
 TEST_F(FilePickerTest, ACancelChoosesNothing) {
     OpenFileName record = RecordFor("");
-    const test::DialogAnswer answer([](HWND dialog) { PressLater(dialog, IDCANCEL); });
+    const test::DialogAnswer answer([](HWND dialog) { test::Press(dialog, IDCANCEL); });
     EXPECT_FALSE(ChooseFile(nullptr, record));
     EXPECT_TRUE(answer.WasGiven());
 }
