@@ -9,7 +9,6 @@ namespace {
 // What the window was drawn with.
 constexpr std::int32_t kMenuLeft = 180;
 constexpr std::int32_t kMenuWidth = 2688;
-constexpr std::int32_t kMenuItemMargin = 108;  // right of the items, for the ring of the focus
 constexpr std::int32_t kPaneTop = 90;
 constexpr std::int32_t kPaneGap = 110;  // between the panes
 constexpr std::int32_t kHeadingMiddle = 480;
@@ -65,7 +64,7 @@ std::int32_t MenuGrowth(const FormLayout& layout) {
     for (std::size_t i = 0; i < kCommandItemCount; ++i)
         if (kCommandItems[i].pane == Pane::Menu)
             right = std::max(right, layout.cmdbuttons[i].Right());
-    return std::max(0, right - (kMenuLeft + kMenuWidth - kMenuItemMargin));
+    return std::max(0, right - (kMenuLeft + kMenuWidth - kPaneMargin));
 }
 
 void PlaceCsvIcons(FormLayout& layout) {
