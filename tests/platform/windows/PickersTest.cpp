@@ -54,7 +54,7 @@ TEST_F(PickersTest, TheFolderThatTheCallbackSelectsIsChosenAndItsPathShown) {
 
 TEST_F(PickersTest, APathOfManyBytesIsChosenWhole) {
     std::string name;
-    for (int i = 0; i < 30; ++i)
+    for (int i = 0; i < 40; ++i)
         name += "\xC3\xA9";
     const std::string songs = folder.MakeFolder(name + "/" + name + "/" + name);
     FolderRequest request{.title = "Which folder?", .flags = FolderRequest::kOnlyFolders};
