@@ -91,7 +91,10 @@ void GuiTest::MoveTo(wxWindow& control) {
 }
 
 void GuiTest::Click(wxWindow& control) {
-    ClickAt(control, MiddleOf(control));
+    // Here and there in turn, so that two clicks are no double click.
+    constexpr int aside = 4;
+    isClickOnTheLeft_ = !isClickOnTheLeft_;
+    ClickAt(control, MiddleOf(control) + wxPoint(isClickOnTheLeft_ ? -aside : aside, 0));
 }
 
 void GuiTest::ClickAt(wxWindow& control, const wxPoint& point, int button) {

@@ -54,7 +54,7 @@ class GuiTest : public ApplicationTest {
     /// The name of the control that has the focus; "" for none.
     std::string FocusedName();
 
-    /// Moves the mouse to the middle of a control, or to a point in it, and clicks.
+    /// Moves the mouse to about the middle of a control, or to a point in it, and clicks.
     void Click(wxWindow& control);
     void ClickAt(wxWindow& control, const wxPoint& point, int button = wxMOUSE_BTN_LEFT);
     void DoubleClickAt(wxWindow& control, const wxPoint& point);
@@ -90,6 +90,7 @@ class GuiTest : public ApplicationTest {
     static wxWindow& FindAny(const std::string& name, const wxWindow* window);
 
     wxUIActionSimulator mouse_;
+    bool isClickOnTheLeft_ = false;
     gui::Form1Window* window_ = nullptr;  ///< owned by the toolkit
 };
 

@@ -114,7 +114,7 @@ TEST_F(LayoutTest, AMinimisedWindowLeavesItsControlsWhereTheyWere) {
     for (int second = 0; second < 60; ++second)
         Logic().Timer1_Timer();
     EXPECT_EQ(Places(), before) << "also when the donation button goes, which lays the window out";
-    Window().Restore();
+    test::Restore(Window());
     ASSERT_TRUE(test::RunEventsUntil([&] { return !Window().IsIconized(); }));
     EXPECT_TRUE(test::RunEventsUntil([&] {
         return Bottom("boxMenu") < before.at("boxMenu").GetBottom();

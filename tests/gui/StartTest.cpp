@@ -36,6 +36,22 @@ class StartTest : public test::GuiTest {
         return most;
     }
 
+    /// What the desktop shows a program with: a red square.
+    static platform::ShellIcon RedIcon() {
+        constexpr int side = 16;
+        platform::ShellIcon icon{.width = side, .height = side};
+        for (int i = 0; i < side * side; ++i)
+            icon.dots.insert(icon.dots.end(), {0xFF, 0, 0, 0xFF});
+        return icon;
+    }
+
+    void ExpectTwoColourfulIcons() {
+        for (const char* name : {"Picture2", "Picture3"}) {
+            wxWindow& icon = Find(name);
+            EXPECT_TRUE(test::RunEventsUntil([&] { return Colourfulness(icon) > 80; })) << name;
+        }
+    }
+
     const std::set<std::size_t> allButCancel = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
     const std::set<std::size_t> withoutResults = {0, 1, 8, 9, 10, 11};
 };
@@ -171,15 +187,21 @@ TEST_F(StartTest, TheWindowTakesItsIconsFromTheApplicationFolder) {
 
 TEST_F(StartTest, TheProgramForCsvFilesIsFoundOutAndItsIconShownTwice) {
     WriteSetting(application, setting::kCsvProgram, "");
-    AddPictures();
     desktop.programs[".csv"] = "/bin/sheets";
-    desktop.icons["/bin/sheets"] = {folder.Path("icons/plug_256.png")};
+    desktop.icons["/bin/sheets"] = RedIcon();
     Open();
     EXPECT_EQ(getSetting(application, setting::kCsvProgram), "/bin/sheets");
-    for (const char* name : {"Picture2", "Picture3"}) {
-        wxWindow& icon = Find(name);
-        EXPECT_TRUE(test::RunEventsUntil([&] { return Colourfulness(icon) > 80; })) << name;
-    }
+    ExpectTwoColourfulIcons();
+}
+
+TEST_F(StartTest, AnIconMayBeAFile) {
+    AddPictures();
+    const std::string file = folder.Path("icons/plug_256.png");
+    if (!file.starts_with('/'))
+        GTEST_SKIP() << "icons have no files of their own here";
+    desktop.icons["/bin/sheets"] = {file};
+    Open();
+    ExpectTwoColourfulIcons();
 }
 
 TEST_F(StartTest, TheProgramForCsvFilesThatWasChosenIsKept) {
