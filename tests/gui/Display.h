@@ -27,6 +27,9 @@ bool HasKeyboard(const wxWindow& window);
 /// does not know it for each kind of control.
 wxWindow* FocusIn(wxWindow& window);
 
+/// The key that opens a context menu, by the name that it has here.
+int MenuKey();
+
 /// The title that a window shows.
 std::string TitleOf(const wxWindow& window);
 

@@ -60,6 +60,10 @@ wxWindow* FocusIn(wxWindow& window) {
     return nullptr;
 }
 
+int MenuKey() {
+    return WXK_MENU;
+}
+
 std::string TitleOf(const wxWindow& window) {
     const char* const title = gtk_window_get_title(WindowOf(window));
     return title == nullptr ? "" : title;

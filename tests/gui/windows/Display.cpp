@@ -84,6 +84,10 @@ wxWindow* FocusIn(wxWindow& window) {
     return wxGetTopLevelParent(control) == &window && control != &window ? control : nullptr;
 }
 
+int MenuKey() {
+    return WXK_WINDOWS_MENU;
+}
+
 std::string TitleOf(const wxWindow& window) {
     std::array<wchar_t, 256> title{};
     GetWindowTextW(HandleOf(window), title.data(), static_cast<int>(title.size()));
