@@ -33,6 +33,9 @@ int MenuKey();
 /// The title that a window shows.
 std::string TitleOf(const wxWindow& window);
 
+/// Whether a window shows an icon of its own.
+bool HasIcon(const wxTopLevelWindow& window);
+
 /// Brings a minimised window back, as the user does.
 void Restore(wxTopLevelWindow& window);
 

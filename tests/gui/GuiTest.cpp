@@ -22,6 +22,7 @@ wxPoint MiddleOf(const wxWindow& control) {
 GuiTest::GuiTest() {
     // Not asked for by most tests, and logged when it is not there.
     WriteSetting(application, setting::kCsvProgram, "/bin/sheets");
+    mouse_.MouseMove(0, 0);  // a window that opens below it would take it for moved
 }
 
 GuiTest::~GuiTest() {

@@ -69,6 +69,10 @@ std::string TitleOf(const wxWindow& window) {
     return title == nullptr ? "" : title;
 }
 
+bool HasIcon(const wxTopLevelWindow& window) {
+    return window.GetIcons().GetIcon(48).IsOk();
+}
+
 void Restore(wxTopLevelWindow& window) {
     window.Restore();
 }

@@ -94,6 +94,11 @@ std::string TitleOf(const wxWindow& window) {
     return wxString(title.data()).utf8_string();
 }
 
+bool HasIcon(const wxTopLevelWindow& window) {
+    return SendMessage(HandleOf(window), WM_GETICON, ICON_BIG, 0) != 0 &&
+           SendMessage(HandleOf(window), WM_GETICON, ICON_SMALL, 0) != 0;
+}
+
 void Restore(wxTopLevelWindow& window) {
     // The toolkit's own way does not tell that it is back.
     PostMessage(HandleOf(window), WM_SYSCOMMAND, SC_RESTORE, 0);
