@@ -25,9 +25,10 @@ class AboutDialogTest : public test::GuiTest {
 
 TEST_F(AboutDialogTest, NamesTheProgramItsVersionAndWhatItIsForFromTheTopDown) {
     AddPictures();
-    dialogs.Handle([&](wxDialog& about) {
+    dialogs.Handle([&](test::Dialog& dialog) {
+        wxDialog& about = dialog.Window();
         EXPECT_EQ(about.GetName(), "frmAbout");
-        EXPECT_EQ(test::TitleOf(about), "About Marlo");
+        EXPECT_EQ(dialog.Title(), "About Marlo");
         const std::array<std::pair<const char*, const char*>, 3> texts = {{
             {"lblTitle", "Marlo"},
             {"lblVersion", "Version " MARLO_VERSION},
@@ -52,18 +53,18 @@ TEST_F(AboutDialogTest, NamesTheProgramItsVersionAndWhatItIsForFromTheTopDown) {
 }
 
 TEST_F(AboutDialogTest, EnterClosesIt) {
-    dialogs.Handle([&](wxDialog& /*about*/) { Press(WXK_RETURN); });
+    dialogs.Handle([&](test::Dialog& /*about*/) { Press(WXK_RETURN); });
     Click(Item(kAbout));
 }
 
 TEST_F(AboutDialogTest, AClickOnItsButtonClosesIt) {
-    dialogs.Handle([&](wxDialog& about) { Click(Find("cmdOk", &about)); });
+    dialogs.Handle([&](test::Dialog& about) { Click(Find("cmdOk", &about.Window())); });
     Click(Item(kAbout));
 }
 
 TEST_F(AboutDialogTest, StandsInTheMiddleOfTheWindow) {
-    dialogs.Handle([&](wxDialog& about) {
-        ExpectCentredOverTheWindow(about);
+    dialogs.Handle([&](test::Dialog& about) {
+        ExpectCentredOverTheWindow(about.Window());
         Press(WXK_ESCAPE);
     });
     Click(Item(kAbout));
@@ -82,8 +83,8 @@ TEST_F(AboutDialogTest, StandsInTheMiddleOfAWindowThatIsPartlyOffTheScreen) {
     }));
     ASSERT_GT(Window().GetRect().GetRight(), screen.x);
     ASSERT_GT(Window().GetRect().GetBottom(), screen.y);
-    dialogs.Handle([&](wxDialog& about) {
-        ExpectCentredOverTheWindow(about);
+    dialogs.Handle([&](test::Dialog& about) {
+        ExpectCentredOverTheWindow(about.Window());
         Press(WXK_ESCAPE);
     });
     Click(Item(kAbout));

@@ -1,63 +1,55 @@
 #include "tests/gui/DialogHandlers.h"
 
-#include <algorithm>
 #include <exception>
 #include <string>
 #include <utility>
-#include <wx/msgdlg.h>
+#include <wx/app.h>
 
 #include <gtest/gtest.h>
 
-#include "tests/gui/Display.h"
 #include "tests/gui/Events.h"
 
 namespace marlo::test {
 
 namespace {
 
-std::string NameOf(const wxDialog& dialog) {
-    const auto* const message = dynamic_cast<const wxMessageDialogBase*>(&dialog);
-    return (message == nullptr ? dialog.GetTitle() : message->GetMessage()).utf8_string();
+void HandleUnexpected(Dialog& dialog) {
+    ADD_FAILURE() << "nobody expects the dialog " << dialog.Title();
+    dialog.Cancel();
 }
 
-void Run(wxDialog& dialog, const DialogHandlers::Handler& handler) {
-    EXPECT_TRUE(RunEventsUntil([&] { return HasKeyboard(dialog); }))
-        << "the keyboard does not go to the dialog " << NameOf(dialog);
+void Run(Dialog& dialog, const DialogHandlers::Handler& handler) {
+    EXPECT_TRUE(RunEventsUntil([&] { return dialog.HasKeyboard(); }))
+        << "the keyboard does not go to the dialog " << dialog.Title();
     RunEvents();
+    const std::string title = dialog.Title();
     try {
         handler(dialog);
     } catch (const std::exception& error) {  // must not pass through the toolkit
-        ADD_FAILURE() << "in the dialog " << NameOf(dialog) << ": " << error.what();
+        ADD_FAILURE() << "in the dialog " << title << ": " << error.what();
     }
-    if (RunEventsUntil([&] { return !dialog.IsModal(); }))
+    if (RunEventsUntil([&] { return !dialog.IsOpen(); }))
         return;
-    ADD_FAILURE() << "the dialog " << NameOf(dialog) << " was left open";
-    dialog.EndModal(wxID_CANCEL);
+    ADD_FAILURE() << "the dialog " << title << " was left open";
+    dialog.Cancel();
 }
 
 }  // namespace
+
+DialogHandlers::DialogHandlers()
+    : watch_([this](std::shared_ptr<Dialog> dialog) { OnOpen(std::move(dialog)); }) {}
 
 DialogHandlers::~DialogHandlers() {
     EXPECT_TRUE(handlers_.empty()) << handlers_.size() << " dialogs have not opened";
 }
 
-int DialogHandlers::Enter(wxDialog* dialog) {
-    // Some kinds of dialog say twice that they open.
-    if (std::find(open_.begin(), open_.end(), dialog) != open_.end())
-        return wxID_NONE;
-    ++count_;
-    if (handlers_.empty()) {
-        ADD_FAILURE() << "nobody expects the dialog " << NameOf(*dialog);
-        return wxID_CANCEL;
+void DialogHandlers::OnOpen(std::shared_ptr<Dialog> dialog) {
+    Handler handler = HandleUnexpected;
+    if (!handlers_.empty()) {
+        handler = std::move(handlers_.front());
+        handlers_.pop_front();
     }
-    open_.push_back(dialog);
-    dialog->CallAfter([dialog, handler = std::move(handlers_.front())] { Run(*dialog, handler); });
-    handlers_.pop_front();
-    return wxID_NONE;
-}
-
-void DialogHandlers::Exit(wxDialog* dialog) {
-    std::erase(open_, dialog);
+    wxTheApp->CallAfter([dialog = std::move(dialog), handler] { Run(*dialog, handler); });
 }
 
 }  // namespace marlo::test

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <deque>
 #include <functional>
-#include <vector>
-#include <wx/dialog.h>
-#include <wx/modalhook.h>
+#include <memory>
+
+#include "tests/gui/DialogWatch.h"
 
 namespace marlo::test {
 
@@ -13,31 +12,25 @@ namespace marlo::test {
 /// the handlers that were given, which runs while the dialog is shown and has the keyboard. A
 /// dialog that nobody expects, one that is left open, and a handler that is left over fail the
 /// test.
-class DialogHandlers final : public wxModalDialogHook {
+class DialogHandlers final {
   public:
-    DialogHandlers() { Register(); }
+    DialogHandlers();
     DialogHandlers(const DialogHandlers&) = delete;
     DialogHandlers& operator=(const DialogHandlers&) = delete;
     DialogHandlers(DialogHandlers&&) = delete;
     DialogHandlers& operator=(DialogHandlers&&) = delete;
-    ~DialogHandlers() override;
+    ~DialogHandlers();
 
-    using Handler = std::function<void(wxDialog&)>;
+    using Handler = std::function<void(Dialog&)>;
 
     /// The next dialog is shown, and `handler` called when it is there. It has to close it.
     void Handle(Handler handler) { handlers_.push_back(std::move(handler)); }
 
-    /// How many dialogs have opened.
-    std::size_t Count() const { return count_; }
-
-  protected:
-    int Enter(wxDialog* dialog) override;
-    void Exit(wxDialog* dialog) override;
-
   private:
+    void OnOpen(std::shared_ptr<Dialog> dialog);
+
     std::deque<Handler> handlers_;
-    std::vector<const wxDialog*> open_;
-    std::size_t count_ = 0;
+    DialogWatch watch_;
 };
 
 }  // namespace marlo::test

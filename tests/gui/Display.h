@@ -2,14 +2,21 @@
 
 #include <string>
 #include <wx/image.h>
-#include <wx/window.h>
+#include <wx/toplevel.h>
 
 namespace marlo::test {
 
 // What the toolkit does not tell about the display.
 
-/// Waits for the events that the display has sent up to now; they are run with the next ones.
-void FetchEvents();
+// Loops of the toolkit's own would not do: inside of one, dialogs do not close.
+
+/// Waits for an event, the display's or the toolkit's own, and runs it; or does what is done when
+/// there is none.
+void RunNextEvent();
+
+/// Runs the events that the display has sent up to now, what they lead to, and what is done when
+/// there are no more.
+void RunDueEvents();
 
 /// Whether keys that are pressed go to the program.
 bool HasKeyboard();
@@ -20,8 +27,17 @@ bool HasKeyboard(const wxWindow& window);
 /// does not know it for each kind of control.
 wxWindow* FocusIn(wxWindow& window);
 
+/// The key that opens a context menu, by the name that it has here.
+int MenuKey();
+
 /// The title that a window shows.
 std::string TitleOf(const wxWindow& window);
+
+/// Whether a window shows an icon of its own.
+bool HasIcon(const wxTopLevelWindow& window);
+
+/// Brings a minimised window back, as the user does.
+void Restore(wxTopLevelWindow& window);
 
 /// What is to be seen in a part of a control, once it is painted.
 /// @param area in the coordinates of its client area.

@@ -2,8 +2,8 @@
 
 #include <filesystem>
 #include <stdexcept>
+#include <system_error>
 #include <wx/clipbrd.h>
-#include <wx/msgdlg.h>
 
 #include "core/Settings.h"
 #include "tools/ProjectWriter.h"
@@ -22,6 +22,7 @@ wxPoint MiddleOf(const wxWindow& control) {
 GuiTest::GuiTest() {
     // Not asked for by most tests, and logged when it is not there.
     WriteSetting(application, setting::kCsvProgram, "/bin/sheets");
+    mouse_.MouseMove(0, 0);  // a window that opens below it would take it for moved
 }
 
 GuiTest::~GuiTest() {
@@ -91,7 +92,10 @@ void GuiTest::MoveTo(wxWindow& control) {
 }
 
 void GuiTest::Click(wxWindow& control) {
-    ClickAt(control, MiddleOf(control));
+    // Here and there in turn, so that two clicks are no double click.
+    constexpr int aside = 4;
+    isClickOnTheLeft_ = !isClickOnTheLeft_;
+    ClickAt(control, MiddleOf(control) + wxPoint(isClickOnTheLeft_ ? -aside : aside, 0));
 }
 
 void GuiTest::ClickAt(wxWindow& control, const wxPoint& point, int button) {
@@ -124,28 +128,27 @@ void GuiTest::Paste(const std::string& text) {
     Press('V', wxMOD_CONTROL);
 }
 
-void GuiTest::ExpectMessageBox(const wxDialog& dialog, const std::string& text, long style,
+void GuiTest::ExpectMessageBox(const Dialog& box, const std::string& text, long style,
                                const std::string& title) {
-    const auto& box = dynamic_cast<const wxMessageDialogBase&>(dialog);
-    EXPECT_EQ(box.GetMessage().utf8_string(), text);
-    EXPECT_EQ(TitleOf(box), title) << text;
-    long shown = box.GetMessageDialogStyle() & wxICON_MASK & ~wxICON_NONE;
-    for (const auto& [id, button] : {std::pair(wxID_OK, wxOK), std::pair(wxID_YES, wxYES),
-                                     std::pair(wxID_NO, wxNO), std::pair(wxID_CANCEL, wxCANCEL)})
-        if (box.FindWindow(id) != nullptr)
-            shown |= button;
-    EXPECT_EQ(shown, style) << text;
+    EXPECT_EQ(box.Message(), text);
+    EXPECT_EQ(box.Title(), title) << text;
+    EXPECT_EQ(box.MessageStyle(), style) << text;
 }
 
-void GuiTest::ChooseInPicker(const wxDialog& picker, const std::string& path) {
-    Press('L', wxMOD_CONTROL);
-    Press('A', wxMOD_CONTROL);
-    Paste(path);
+void GuiTest::ReadFoldersTo(const std::string& path) {
+    std::error_code ignored;
+    for (std::filesystem::path part(path); part.has_relative_path(); part = part.parent_path())
+        std::filesystem::directory_iterator(part, ignored);
+}
+
+void GuiTest::ChooseInPicker(Dialog& picker, const std::string& path) {
+    ReadFoldersTo(path);
+    picker.EnterPath(path);
     // The picker looks the path up first, and takes no answer meanwhile. What comes after it must
     // not get the key.
-    RepeatUntil([&] { return !picker.IsModal(); },
+    RepeatUntil([&] { return !picker.IsOpen(); },
                 [&] {
-                    if (HasKeyboard(picker))
+                    if (picker.HasKeyboard())
                         mouse_.Char(WXK_RETURN);
                 });
 }

@@ -54,7 +54,7 @@ class GuiTest : public ApplicationTest {
     /// The name of the control that has the focus; "" for none.
     std::string FocusedName();
 
-    /// Moves the mouse to the middle of a control, or to a point in it, and clicks.
+    /// Moves the mouse to about the middle of a control, or to a point in it, and clicks.
     void Click(wxWindow& control);
     void ClickAt(wxWindow& control, const wxPoint& point, int button = wxMOUSE_BTN_LEFT);
     void DoubleClickAt(wxWindow& control, const wxPoint& point);
@@ -72,10 +72,13 @@ class GuiTest : public ApplicationTest {
 
     /// Expects a dialog to be a message box. @param style its buttons, and its icon if it has one,
     /// of wxOK, ….
-    static void ExpectMessageBox(const wxDialog& dialog, const std::string& text, long style,
+    static void ExpectMessageBox(const Dialog& box, const std::string& text, long style,
                                  const std::string& title = "Marlo");
-    /// Chooses a path in the desktop's own picker, which is shown.
-    void ChooseInPicker(const wxDialog& picker, const std::string& path);
+    /// Reads all folders on the way to a path. Some pickers do not find one whose time of access
+    /// changes meanwhile.
+    static void ReadFoldersTo(const std::string& path);
+    /// Chooses a path in a picker.
+    void ChooseInPicker(Dialog& picker, const std::string& path);
 
     /// Puts the program's pictures into the application folder.
     void AddPictures() const;
@@ -90,6 +93,7 @@ class GuiTest : public ApplicationTest {
     static wxWindow& FindAny(const std::string& name, const wxWindow* window);
 
     wxUIActionSimulator mouse_;
+    bool isClickOnTheLeft_ = false;
     gui::Form1Window* window_ = nullptr;  ///< owned by the toolkit
 };
 

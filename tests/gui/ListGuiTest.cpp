@@ -34,7 +34,7 @@ void ListGuiTest::ClickHeader(int column) {
     // Here and there in turn, so that two clicks are no double click.
     const int aside = List().GetColumnWidth(column) / 4;
     isClickOnTheLeft_ = !isClickOnTheLeft_;
-    ClickAt(HeadersOf(List()),
+    ClickAt(List(),
             MiddleOfHeader(List(), column) + wxPoint(isClickOnTheLeft_ ? -aside : aside, 0));
 }
 
@@ -47,7 +47,7 @@ void ListGuiTest::RightClickBelowTheRows() {
 }
 
 void ListGuiTest::DoubleClickHeader(int column) {
-    DoubleClickAt(HeadersOf(List()), MiddleOfHeader(List(), column));
+    DoubleClickAt(List(), MiddleOfHeader(List(), column));
 }
 
 void ListGuiTest::DoubleClickRow(long row) {

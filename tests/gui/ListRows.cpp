@@ -11,7 +11,8 @@ constexpr int kLeftInRow = 20;
 }  // namespace
 
 wxWindow& RowsOf(gui::LedgerList& list) {
-    return *list.GetChildren().GetFirst()->GetData();
+    const wxWindowList& parts = list.GetChildren();
+    return parts.empty() ? list : *parts.GetFirst()->GetData();
 }
 
 wxRect PlaceOfRow(gui::LedgerList& list, long row) {
@@ -25,15 +26,13 @@ wxPoint PointInRow(gui::LedgerList& list, long row) {
     return place.GetTopLeft() + wxPoint(kLeftInRow, place.height / 2);
 }
 
-wxWindow& HeadersOf(gui::LedgerList& list) {
-    return *list.FindWindow("wxlistctrlcolumntitles");
-}
-
 wxPoint MiddleOfHeader(gui::LedgerList& list, int column) {
     int left = 0;
     for (int i = 0; i < column; ++i)
         left += list.GetColumnWidth(i);
-    return {left + list.GetColumnWidth(column) / 2, HeadersOf(list).GetSize().y / 2};
+    wxRect row;
+    list.GetItemRect(list.GetTopItem(), row);
+    return {left + list.GetColumnWidth(column) / 2, row.y / 2};
 }
 
 wxColour TextColour(gui::LedgerList& list, long row) {

@@ -1,52 +1,23 @@
 #include <vector>
 #include <wx/bmpcbox.h>
 #include <wx/checkbox.h>
-#include <wx/filedlg.h>
-#include <wx/msgdlg.h>
-#include <wx/notebook.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
 #include "core/Settings.h"
-#include "tests/gui/GuiTest.h"
 #include "tests/gui/ListRows.h"
+#include "tests/gui/OptionsGuiTest.h"
 
 namespace marlo {
 namespace {
 
-constexpr std::size_t kOptions = 8;
-
-class OptionsDialogTest : public test::GuiTest {
+class OptionsDialogTest : public test::OptionsGuiTest {
   protected:
-    OptionsDialogTest() { Open(); }
-
-    /// Opens the dialog and calls `body`, which has to close it.
-    void InOptions(const std::function<void()>& body) {
-        dialogs.Handle([this, body](wxDialog& dialog) {
-            dialog_ = &dialog;
-            body();
-        });
-        Click(Item(kOptions));
-    }
-
-    template <class Control = wxWindow>
-    Control& Part(const std::string& name) {
-        return Find<Control>(name, dialog_);
-    }
     std::string LabelOf(const std::string& name) {
         return Part<wxControl>(name).GetLabelText().utf8_string();
     }
-    wxNotebook& Tabs() { return Part<wxNotebook>("Tabs"); }
     gui::LedgerList& Paths() { return Part<gui::LedgerList>("LstPaths"); }
-
-    void SelectTab(int tab) {
-        wxPoint point(0, 10);
-        while (Tabs().HitTest(point) != tab && point.x < Tabs().GetSize().x)
-            ++point.x;
-        ClickAt(Tabs(), point + wxPoint(10, 0));
-        ASSERT_EQ(Tabs().GetSelection(), tab);
-    }
 
     std::vector<std::string> ShownPaths() {
         std::vector<std::string> paths;
@@ -59,8 +30,8 @@ class OptionsDialogTest : public test::GuiTest {
 
     /// Adds a folder with the button and the picker.
     void Add(const std::string& path) {
-        dialogs.Handle([this, path](wxDialog& picker) {
-            EXPECT_EQ(test::TitleOf(picker), "Please select a folder:");
+        dialogs.Handle([this, path](test::Dialog& picker) {
+            EXPECT_EQ(picker.Title(), "Please select a folder:");
             ChooseInPicker(picker, path);
         });
         Click(Part("cmdAdd"));
@@ -68,11 +39,10 @@ class OptionsDialogTest : public test::GuiTest {
 
     /// Presses "Browse..." and chooses a file.
     void Browse(const std::string& path) {
-        dialogs.Handle([this, path](wxDialog& picker) {
-            EXPECT_EQ(test::TitleOf(picker), "Select an application to open the csv result files");
+        InProgramPicker([this, path](test::Dialog& picker) {
+            EXPECT_EQ(picker.Title(), "Select an application to open the csv result files");
             ChooseInPicker(picker, path);
         });
-        Click(Part("cmdTab2Search"));
     }
 
     std::string ShownProgram() {
@@ -96,9 +66,6 @@ class OptionsDialogTest : public test::GuiTest {
     }
 
     using Folders = std::vector<std::string>;
-
-  private:
-    wxDialog* dialog_ = nullptr;
 };
 
 TEST_F(OptionsDialogTest, HasFourTabsWithTheirHeaders) {
@@ -157,8 +124,8 @@ TEST_F(OptionsDialogTest, AFolderThatIsListedAlreadyIsTold) {
     const std::string listed = folder.MakeFolder("plugins");
     SaveFolders({listed});
     InOptions([&] {
-        dialogs.Handle([&](wxDialog& picker) { ChooseInPicker(picker, listed); });
-        dialogs.Handle([&](wxDialog& box) {
+        dialogs.Handle([&](test::Dialog& picker) { ChooseInPicker(picker, listed); });
+        dialogs.Handle([&](test::Dialog& box) {
             ExpectMessageBox(box, "Path is already in the list", wxOK | wxICON_EXCLAMATION);
             Press(WXK_RETURN);
         });
@@ -171,7 +138,7 @@ TEST_F(OptionsDialogTest, AFolderThatIsListedAlreadyIsTold) {
 
 TEST_F(OptionsDialogTest, APickerThatIsCancelledAddsNothing) {
     InOptions([&] {
-        dialogs.Handle([&](wxDialog& /*picker*/) { Press(WXK_ESCAPE); });
+        dialogs.Handle([&](test::Dialog& /*picker*/) { Press(WXK_ESCAPE); });
         Click(Part("cmdAdd"));
         EXPECT_EQ(ShownPaths(), Folders{});
         Press(WXK_ESCAPE);
@@ -201,7 +168,7 @@ TEST_F(OptionsDialogTest, RemoveInAnEmptyListDoesNothing) {
 TEST_F(OptionsDialogTest, RemoveWithoutASelectedFolderIsTold) {
     SaveFolders({"/vst/a"});
     InOptions([&] {
-        dialogs.Handle([&](wxDialog& box) {
+        dialogs.Handle([&](test::Dialog& box) {
             ExpectMessageBox(box, "An unexpected error occurred.", wxOK | wxICON_EXCLAMATION);
             Press(WXK_RETURN);
         });
@@ -225,21 +192,6 @@ TEST_F(OptionsDialogTest, TheProgramForCsvFilesIsShown) {
     InOptions([&] {
         SelectTab(1);
         EXPECT_EQ(ShownProgram(), "/bin/sheets");
-        Press(WXK_ESCAPE);
-    });
-}
-
-TEST_F(OptionsDialogTest, BrowseOffersProgramsThatExist) {
-    InOptions([&] {
-        SelectTab(1);
-        dialogs.Handle([&](wxDialog& dialog) {
-            const auto& picker = dynamic_cast<wxFileDialog&>(dialog);
-            EXPECT_EQ(picker.GetWildcard(), "Program files (*.exe)|*.exe|All Files|*");
-            EXPECT_TRUE(picker.HasFlag(wxFD_OPEN));
-            EXPECT_TRUE(picker.HasFlag(wxFD_FILE_MUST_EXIST));
-            Press(WXK_ESCAPE);
-        });
-        Click(Part("cmdTab2Search"));
         Press(WXK_ESCAPE);
     });
 }
@@ -271,8 +223,7 @@ TEST_F(OptionsDialogTest, ABrowseThatIsCancelledUndoesTheOneBefore) {
     InOptions([&] {
         SelectTab(1);
         Browse(program);
-        dialogs.Handle([&](wxDialog& /*picker*/) { Press(WXK_ESCAPE); });
-        Click(Part("cmdTab2Search"));
+        InProgramPicker([&](test::Dialog& /*picker*/) { Press(WXK_ESCAPE); });
         EXPECT_EQ(ShownProgram(), program) << "it stays shown";
         Click(Part("cmdOk"));
     });
@@ -372,7 +323,7 @@ TEST_F(OptionsDialogTest, EnterIsOk) {
 
 TEST_F(OptionsDialogTest, AFolderThatTheSettingsHoldTwiceIsTold) {
     SaveFolders({"/vst/a", "/vst/a"});
-    dialogs.Handle([&](wxDialog& box) {
+    dialogs.Handle([&](test::Dialog& box) {
         ExpectMessageBox(box, "An unexpected error occurred", wxOK | wxICON_EXCLAMATION);
         Press(WXK_RETURN);
     });

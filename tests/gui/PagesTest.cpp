@@ -29,7 +29,7 @@ class PagesTest : public test::GuiTest {
     }
 
     void ExpectMessage(const std::string& text, long style) {
-        dialogs.Handle([&, text, style](wxDialog& dialog) {
+        dialogs.Handle([&, text, style](test::Dialog& dialog) {
             ExpectMessageBox(dialog, text, style);
             Press(WXK_RETURN);
         });
