@@ -2,6 +2,7 @@
 // files.
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <functional>
@@ -17,13 +18,13 @@
 namespace marlo::bench {
 namespace {
 
-constexpr std::size_t kBlock = std::size_t{1024} * 1024;
+constexpr std::size_t kBlock = std::size_t{256} * 1024;
 constexpr int kRounds = 9;
 constexpr double kBound = 0.7;
 
 /// Reads the files to their ends. @return how many bytes they have.
 std::size_t ReadAll(const std::vector<std::string>& paths) {
-    static std::vector<char> block(kBlock);
+    alignas(64) static std::array<char, kBlock> block;
     std::size_t total = 0;
     for (const std::string& path : paths) {
         const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <fcntl.h>
 #include <io.h>
-#include <limits>
 #include <utility>
 
 #include "platform/windows/System.h"
@@ -21,25 +20,25 @@ HANDLE HandleOf(int descriptor) {
     return reinterpret_cast<HANDLE>(_get_osfhandle(descriptor));
 }
 
-OVERLAPPED PlaceAt(std::uint64_t offset) {
-    OVERLAPPED place{};
-    place.Offset = static_cast<DWORD>(offset & std::numeric_limits<DWORD>::max());
-    place.OffsetHigh = static_cast<DWORD>(offset >> 32);
-    return place;
+/// Moves the file's own position. Telling the position with each call instead would take longer:
+/// it makes the system report the call to whoever might wait for it.
+bool MoveTo(int descriptor, std::uint64_t offset) {
+    LARGE_INTEGER position{};
+    position.QuadPart = static_cast<LONGLONG>(offset);
+    return SetFilePointerEx(HandleOf(descriptor), position, nullptr, FILE_BEGIN) != FALSE;
 }
 
 DWORD PartOf(std::size_t size) {
     return static_cast<DWORD>(std::min(size, kMostBytes));
 }
 
-/// Writes all of `bytes` from byte `offset` on, or where the file's own position is.
-std::error_code WriteAll(int descriptor, std::string_view bytes, const std::uint64_t* offset) {
+/// Writes all of `bytes` from the file's own position on.
+std::error_code WriteAll(int descriptor, std::string_view bytes) {
     std::size_t done = 0;
     while (done < bytes.size()) {
-        OVERLAPPED place = PlaceAt(offset == nullptr ? 0 : *offset + done);
         DWORD written = 0;
         if (WriteFile(HandleOf(descriptor), bytes.data() + done, PartOf(bytes.size() - done),
-                      &written, offset == nullptr ? nullptr : &place) == FALSE)
+                      &written, nullptr) == FALSE)
             return LastWindowsError();
         done += written;
     }
@@ -143,28 +142,28 @@ std::size_t File::ReadAt(std::uint64_t offset, std::span<unsigned char> buffer,
                          std::error_code& error) const {
     error.clear();
     std::size_t done = 0;
-    while (done < buffer.size()) {
-        OVERLAPPED place = PlaceAt(offset + done);
+    bool isGood = MoveTo(handle_, offset);
+    while (isGood && done < buffer.size()) {
         DWORD count = 0;
-        const BOOL isRead = ReadFile(HandleOf(handle_), buffer.data() + done,
-                                     PartOf(buffer.size() - done), &count, &place);
-        if (isRead == FALSE && GetLastError() != ERROR_HANDLE_EOF)
-            error = LastWindowsError();
-        if (isRead == FALSE || count == 0)
+        isGood = ReadFile(HandleOf(handle_), buffer.data() + done, PartOf(buffer.size() - done),
+                          &count, nullptr) != FALSE;
+        if (count == 0)
             break;
         done += count;
     }
+    if (!isGood)
+        error = LastWindowsError();
     return done;
 }
 
 // NOLINTBEGIN(readability-make-member-function-const): writing changes the file.
 
 void File::WriteAt(std::uint64_t offset, std::string_view bytes, std::error_code& error) {
-    error = WriteAll(handle_, bytes, &offset);
+    error = MoveTo(handle_, offset) ? WriteAll(handle_, bytes) : LastWindowsError();
 }
 
 void File::Write(std::string_view bytes, std::error_code& error) {
-    error = WriteAll(handle_, bytes, nullptr);
+    error = WriteAll(handle_, bytes);
 }
 
 void File::Flush(std::error_code& error) {

@@ -30,8 +30,11 @@ HWND OpenDialog() {
 
 }  // namespace
 
-DialogAnswer::DialogAnswer(std::function<void(HWND)> answer)
-    : answer_(std::move(answer)), timer_(SetTimer(nullptr, 0, 50, Look)) {
+DialogAnswer::DialogAnswer(std::function<void(HWND)> answer, Question isDue)
+    : answer_(std::move(answer)),
+      isDue_(std::move(isDue)),
+      end_(GetTickCount64() + 10000),
+      timer_(SetTimer(nullptr, 0, 50, Look)) {
     current = this;
 }
 
@@ -42,27 +45,16 @@ DialogAnswer::~DialogAnswer() {
 
 void DialogAnswer::Look(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
     const HWND dialog = OpenDialog();
-    if (dialog != nullptr && current->answer_)
+    if (dialog == nullptr || !current->answer_)
+        return;
+    const bool isDue =
+        !current->isDue_ || current->isDue_(dialog) || GetTickCount64() > current->end_;
+    if (isDue)
         std::exchange(current->answer_, nullptr)(dialog);
 }
 
 void Press(HWND dialog, int button) {
     PostMessageA(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
-}
-
-bool WaitUntil(const std::function<bool()>& isSo) {
-    const ULONGLONG end = GetTickCount64() + 10000;
-    while (!isSo()) {
-        if (GetTickCount64() > end)
-            return false;
-        MSG message{};
-        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
-            TranslateMessage(&message);
-            DispatchMessageA(&message);
-        }
-        Sleep(10);
-    }
-    return true;
 }
 
 std::string TextOf(HWND window) {

@@ -9,8 +9,12 @@ namespace marlo::test {
 /// Answers the system's next dialog on this thread while the test waits for it.
 class DialogAnswer {
   public:
+    using Question = std::function<bool(HWND)>;
+
     /// @param answer called once, when the dialog is there.
-    explicit DialogAnswer(std::function<void(HWND)> answer);
+    /// @param isDue whether what is to happen in the dialog first has happened; after ten seconds
+    ///        the dialog is answered anyway.
+    explicit DialogAnswer(std::function<void(HWND)> answer, Question isDue = {});
     DialogAnswer(const DialogAnswer&) = delete;
     DialogAnswer& operator=(const DialogAnswer&) = delete;
     DialogAnswer(DialogAnswer&&) = delete;
@@ -23,15 +27,13 @@ class DialogAnswer {
     static void CALLBACK Look(HWND window, UINT message, UINT_PTR timer, DWORD time);
 
     std::function<void(HWND)> answer_;
+    Question isDue_;
+    ULONGLONG end_;
     UINT_PTR timer_;
 };
 
 /// Presses a button of a dialog. @param button IDOK, IDCANCEL and so on.
 void Press(HWND dialog, int button);
-
-/// Lets events run until something is so, or for as long as a slow machine may take.
-/// @return whether it is.
-bool WaitUntil(const std::function<bool()>& isSo);
 
 std::string TextOf(HWND window);
 
