@@ -37,7 +37,7 @@ test-windows: ## Build for Windows and run every test under Wine
 	@cmake --build --preset normal --target marlo-cli marlo-samples
 	@packaging/windows/configure windows64
 	@cmake --build --preset windows64
-	tests/windows/with-wine ctest --preset windows64 -j 2 --repeat until-pass:3
+	tests/windows/with-wine ctest --preset windows64 -j 2 --repeat after-timeout:2
 	@tests/windows/run-32-bit
 
 bench: ## Measure speed against baselines from the same run

@@ -7,7 +7,7 @@
 #include "core/Settings.h"
 #include "inventory/InstalledPlugins.h"
 #include "tests/support/ApplicationTest.h"
-#include "tests/support/System.h"
+#include "tests/support/HeldFiles.h"
 #include "tools/FilterWriter.h"
 
 namespace marlo {
@@ -132,20 +132,16 @@ TEST_F(RefreshPluginsTest, ACancelWithoutAFolderIsNotSeen) {
 }
 
 TEST_F(RefreshPluginsTest, AListThatIsInUseIsAskedAboutAndCancelLeavesItAsItIs) {
-    if (!test::CanBeOrdinaryUser())
-        GTEST_SKIP() << test::kNoOrdinaryUser;
-    folder.Write(kFile, "old");
-    using std::filesystem::perms;
-    std::filesystem::permissions(folder.Path(), perms{0755});
-    std::filesystem::permissions(folder.Path("resultfiles"), perms{0555});
+    if (!test::HeldFiles::ArePossible())
+        GTEST_SKIP() << test::kNoHeldFiles;
+    const std::string list = folder.Write(kFile, "old");
     AddLibrary(50, "A.dll", "A");
     window.answers = {MessageAnswer::Ok, MessageAnswer::Cancel};
     InventorySummary summary;
     {
-        const test::OrdinaryUser user;
+        const test::HeldFiles held({list});
         summary = Refresh();
     }
-    std::filesystem::permissions(folder.Path("resultfiles"), perms{0755});
     EXPECT_EQ(summary.outcome, InventoryOutcome::NotStarted);
     EXPECT_EQ(List(), "old");
     EXPECT_EQ(window.messages.size(), 2U);

@@ -8,6 +8,7 @@
 
 #include "scan/ProjectPlugins.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/HeldFiles.h"
 #include "tests/support/System.h"
 #include "tools/ProjectWriter.h"
 
@@ -212,14 +213,11 @@ TEST_F(ProjectPluginsTest, AFolderIsLoggedAndFails) {
 }
 
 TEST_F(ProjectPluginsTest, AFileThatMayNotBeReadIsLoggedAndFails) {
-    if (!test::CanBeOrdinaryUser())
-        GTEST_SKIP() << test::kNoOrdinaryUser;
     const std::string path = folder.Write("locked.cpr", kFront);
-    std::filesystem::permissions(path, std::filesystem::perms::none);
     std::filesystem::permissions(folder.Path(), std::filesystem::perms{0755});
     std::filesystem::permissions(folder.Path("resultfiles"), std::filesystem::perms{0777});
     {
-        const test::OrdinaryUser user;
+        const test::UnreadableFile locked(path);
         EXPECT_FALSE(GetPlugins4Project(application, lists, path));
     }
     EXPECT_EQ(Log(), LogLine("GetPlugins4Project " + path + " ", 70, "Permission denied"));

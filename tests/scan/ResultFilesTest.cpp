@@ -7,13 +7,9 @@
 #include "scan/ResultFiles.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/HeldFiles.h"
-#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
-
-using std::filesystem::permissions;
-using std::filesystem::perms;
 
 class ResultFilesTest : public test::ApplicationTest {
   protected:
@@ -72,15 +68,13 @@ TEST_F(ResultFilesTest, AVstTypeIsPaddedInTwoFilesAndTrimmedInTheThird) {
 }
 
 TEST_F(ResultFilesTest, CancelAtTheFirstQuestionWritesNothingFurtherAndIsNoFailure) {
-    if (!test::CanBeOrdinaryUser())
-        GTEST_SKIP() << test::kNoOrdinaryUser;
+    if (!test::HeldFiles::ArePossible())
+        GTEST_SKIP() << test::kNoHeldFiles;
     WriteOldFiles();
-    permissions(folder.Path(), perms{0755});
-    permissions(folder.Path("resultfiles"), perms{0555});
     AddUse("A.cpr", "Delay", "On");
     window.answers = {MessageAnswer::Cancel};
     {
-        const test::OrdinaryUser user;
+        const test::HeldFiles held({folder.Path("resultfiles/results.csv")});
         EXPECT_TRUE(Create());
     }
     EXPECT_EQ(Results(), "old");

@@ -7,7 +7,7 @@
 #include "core/Settings.h"
 #include "scan/SearchRun.h"
 #include "tests/support/ApplicationTest.h"
-#include "tests/support/System.h"
+#include "tests/support/HeldFiles.h"
 #include "tools/ProjectWriter.h"
 
 namespace marlo {
@@ -213,15 +213,12 @@ TEST_F(SearchRunTest, AFileThatVanishesBeforeItsScanIsAFailedProject) {
 }
 
 TEST_F(SearchRunTest, ALockedProjectStillGivesResultFilesForTheOthers) {
-    if (!test::CanBeOrdinaryUser())
-        GTEST_SKIP() << test::kNoOrdinaryUser;
     const std::string locked = AddProject("a.cpr", "Delay");
     AddProject("b.cpr", "Echo");
     std::filesystem::permissions(folder.Path(), std::filesystem::perms{0777});
     std::filesystem::permissions(folder.Path("resultfiles"), std::filesystem::perms{0777});
-    std::filesystem::permissions(locked, std::filesystem::perms::none);
     {
-        const test::OrdinaryUser user;
+        const test::UnreadableFile file(locked);
         EXPECT_EQ(Search().failedProjects, 1U);
     }
     EXPECT_EQ(folder.Read("resultfiles/tln.csv"), "\"Echo\",\"VST\",\"On\"\r\n");
@@ -230,15 +227,14 @@ TEST_F(SearchRunTest, ALockedProjectStillGivesResultFilesForTheOthers) {
 }
 
 TEST_F(SearchRunTest, CancelAtTheFileInUseQuestionCountsAsACompletedRun) {
-    if (!test::CanBeOrdinaryUser())
-        GTEST_SKIP() << test::kNoOrdinaryUser;
+    if (!test::HeldFiles::ArePossible())
+        GTEST_SKIP() << test::kNoHeldFiles;
     AddProject("a.cpr", "Delay");
-    folder.Write("resultfiles/results.csv", "old");
+    const std::string results = folder.Write("resultfiles/results.csv", "old");
     std::filesystem::permissions(folder.Path(), std::filesystem::perms{0777});
-    std::filesystem::permissions(folder.Path("resultfiles"), std::filesystem::perms{0555});
     window.answers = {MessageAnswer::Yes, MessageAnswer::Cancel};
     {
-        const test::OrdinaryUser user;
+        const test::HeldFiles held({results});
         EXPECT_EQ(Search().outcome, SearchOutcome::Written);
     }
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");

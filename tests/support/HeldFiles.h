@@ -29,6 +29,22 @@ class HeldFiles {
     std::unique_ptr<Hold> hold_;
 };
 
+/// A file that this process may not read for as long as this lives: another program has it for
+/// itself, or its permissions are against it.
+class UnreadableFile {
+  public:
+    explicit UnreadableFile(const std::string& path);
+    UnreadableFile(const UnreadableFile&) = delete;
+    UnreadableFile& operator=(const UnreadableFile&) = delete;
+    UnreadableFile(UnreadableFile&&) = delete;
+    UnreadableFile& operator=(UnreadableFile&&) = delete;
+    ~UnreadableFile();
+
+  private:
+    struct Hold;
+    std::unique_ptr<Hold> hold_;
+};
+
 constexpr const char* kNoHeldFiles = "needs files that belong to another user";
 
 }  // namespace marlo::test

@@ -8,6 +8,8 @@
 #include <dlgs.h>
 #include <shlobj.h>
 
+#include "tests/support/windows/FolderTimes.h"
+
 namespace marlo::test {
 
 namespace {
@@ -80,6 +82,7 @@ void NativeDialog::EnterPath(const std::string& path) {
             return;
         }
     // A folder picker has no field.
+    SettleTimes(path);
     SendMessageW(window_, BFFM_SETSELECTIONW, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
 }
 

@@ -7,6 +7,7 @@
 #include "platform/Pickers.h"
 #include "tests/platform/windows/DialogAnswer.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/windows/FolderTimes.h"
 
 namespace marlo::platform {
 namespace {
@@ -25,6 +26,7 @@ TEST_F(PickersTest, TheFolderThatTheCallbackSelectsIsChosenAndItsPathShown) {
     const std::string songs = folder.MakeFolder("Songs \xC3\xA9");
     std::vector<std::string> selected;
     std::size_t started = 0;
+    test::SettleTimes(songs);
     FolderRequest request{.title = "Which folder?",
                           .flags = FolderRequest::kOnlyFolders | FolderRequest::kStatusText};
     request.callback = [&](BrowseMessage message, OpenFolderPicker& picker) {
@@ -57,6 +59,7 @@ TEST_F(PickersTest, APathOfManyBytesIsChosenWhole) {
     for (int i = 0; i < 40; ++i)
         name += "\xC3\xA9";
     const std::string songs = folder.MakeFolder(name + "/" + name + "/" + name);
+    test::SettleTimes(songs);
     FolderRequest request{.title = "Which folder?", .flags = FolderRequest::kOnlyFolders};
     std::string selected;
     request.callback = [&](BrowseMessage message, OpenFolderPicker& picker) {

@@ -50,4 +50,15 @@ void HeldFiles::Free(const std::string& path) {
     hold_->user = std::make_unique<OrdinaryUser>();
 }
 
+struct UnreadableFile::Hold {
+    OrdinaryUser user;
+};
+
+UnreadableFile::UnreadableFile(const std::string& path) {
+    std::filesystem::permissions(path, std::filesystem::perms::none);
+    hold_ = std::make_unique<Hold>();
+}
+
+UnreadableFile::~UnreadableFile() = default;
+
 }  // namespace marlo::test
