@@ -5,19 +5,11 @@
 #include <wx/frame.h>
 #include <wx/timer.h>
 
+#include "app/gui/Form1Controls.h"
 #include "app/gui/IconBox.h"
-#include "app/gui/LedgerList.h"
 #include "app/gui/Pickers.h"
-#include "app/gui/PictureControl.h"
-#include "app/gui/StatusBox.h"
-#include "app/gui/TwipScale.h"
 #include "ui/Form1.h"
 #include "ui/Pace.h"
-
-class wxCheckBox;
-class wxChoice;
-class wxStaticBitmap;
-class wxTextCtrl;
 
 namespace marlo::gui {
 
@@ -41,10 +33,10 @@ class Form1Window final : public wxFrame, private FormView {
     void ShowText1(const std::string& text) override;
     void ShowText2(const std::string& text) override;
     void ShowList() override;
-    NaturalSizes Sizes() const override;
-    TwipSize ClientArea() const override;
+    NaturalSizes Sizes() const override { return controls_.Sizes(); }
+    TwipSize ClientArea() const override { return controls_.ClientArea(); }
     bool IsMinimised() const override { return IsIconized(); }
-    void Place(const FormLayout& layout) override;
+    void Place(const FormLayout& layout) override { controls_.Place(layout); }
     void FillSearchTypes(const std::vector<std::string>& types) override;
     int SearchType() const override;
     void SetSearchType(int index) override;
@@ -70,13 +62,6 @@ class Form1Window final : public wxFrame, private FormView {
     void Close() override;
     using wxFrame::Close;
 
-    void CreateControls();
-    void CreateCommandItems();
-    void CreateSearchControls();
-    wxFont HeadingFont() const;
-    wxFont ItemFont() const;
-    void LoadMark();
-    void ApplyTheme();
     void FollowScreen();
     void BindEvents();
     void BindListEvents();
@@ -87,11 +72,8 @@ class Form1Window final : public wxFrame, private FormView {
     void OnKey(wxKeyEvent& event);
     void MoveFocusTo(wxWindow* control);
     void FollowFocus(const FormState& state);
-    void PlaceInside(wxWindow* control, const marlo::Place& place, const wxPoint& origin) const;
-    std::string Picture(const std::string& name) const;
 
     const Application& application_;
-    TwipScale scale_;
     wxTimer timer1_;
     wxTimer laterTimer_;
     std::vector<std::function<void()>> later_;
@@ -105,27 +87,8 @@ class Form1Window final : public wxFrame, private FormView {
     wxWindow* focusAfterRun_ = nullptr;
     bool isMenuDue_ = false;
 
-    wxPanel* background_ = nullptr;
-    wxPanel* boxMenu_ = nullptr;
-    PicturePanel* imgMenu_ = nullptr;
-    PictureLabel* label5_ = nullptr;
-    wxWindow* image1_ = nullptr;
-    wxBitmap mark_;
-    std::array<CommandItemControl*, kCommandItemCount> cmdbuttons_{};
-    std::array<wxWindow*, 2> csvIconViews_{};
-    PictureButton* btnDonate_ = nullptr;
-    wxPanel* boxRightPane_ = nullptr;
-    PicturePanel* imgRightPane_ = nullptr;
-    wxChoice* cboSearchType_ = nullptr;
-    PictureLabel* label3_ = nullptr;
-    wxCheckBox* chkIgnoreCase_ = nullptr;
-    wxTextCtrl* txtSearchText_ = nullptr;
-    PictureButton* cmdFind_ = nullptr;
-    LedgerList* lstSongs_ = nullptr;
-    StatusBox* text1_ = nullptr;
-    StatusBox* text2_ = nullptr;
-
     Form1 form_;
+    Form1Controls controls_;
 };
 
 }  // namespace marlo::gui

@@ -3,7 +3,6 @@
 #include <utility>
 #include <wx/dcbuffer.h>
 
-#include "app/gui/Pictures.h"
 #include "app/gui/TwipScale.h"
 #include "platform/Toolkit.h"
 
@@ -154,19 +153,13 @@ void CommandItemControl::Draw(wxDC& dc) {
 PictureButton::PictureButton(PicturePanel* parent, const wxString& name, const wxString& label,
                              std::string enabledPath, std::string disabledPath)
     : PictureControl(parent, name),
-      pictures_{{{std::move(disabledPath), {}, {}}, {std::move(enabledPath), {}, {}}}} {
+      pictures_{FittedPicture(std::move(disabledPath)), FittedPicture(std::move(enabledPath))} {
     SetAccessibleLabel(label);
     SetToolTip(label);
 }
 
 const wxBitmap& PictureButton::ShownPicture() {
-    const wxSize size = GetClientSize();
-    Picture& shown = pictures_[IsThisEnabled() ? 1 : 0];
-    if (shown.loadedFor != size) {
-        shown.loadedFor = size;
-        shown.bitmap = LoadPicture(*this, shown.path, size);
-    }
-    return shown.bitmap;
+    return pictures_[IsThisEnabled() ? 1 : 0].In(*this);
 }
 
 void PictureButton::Draw(wxDC& dc) {

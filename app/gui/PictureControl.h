@@ -7,6 +7,7 @@
 #include <wx/window.h>
 
 #include "app/gui/PicturePanel.h"
+#include "app/gui/Pictures.h"
 
 namespace marlo::gui {
 
@@ -80,15 +81,9 @@ class PictureButton final : public PictureControl {
     const wxBitmap& ShownPicture();
 
   private:
-    struct Picture {
-        std::string path;
-        wxBitmap bitmap;
-        wxSize loadedFor;
-    };
-
     void Draw(wxDC& dc) override;
 
-    std::array<Picture, 2> pictures_;  ///< disabled, enabled
+    std::array<FittedPicture, 2> pictures_;  ///< disabled, enabled
 };
 
 }  // namespace marlo::gui

@@ -58,4 +58,13 @@ wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSi
     return Sharp(window, wxBitmap(image.Scale(dots.x, dots.y, wxIMAGE_QUALITY_HIGH)));
 }
 
+const wxBitmap& FittedPicture::In(const wxWindow& window) {
+    const wxSize dots = Dots(window, window.GetClientSize());
+    if (loadedFor_ != dots) {
+        loadedFor_ = dots;
+        bitmap_ = LoadPicture(window, path_, window.GetClientSize());
+    }
+    return bitmap_;
+}
+
 }  // namespace marlo::gui
