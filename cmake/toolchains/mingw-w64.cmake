@@ -20,8 +20,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE BOTH)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
 
-# The tests run under Wine; tests/windows/with-wine makes the machine for them.
-set(CMAKE_CROSSCOMPILING_EMULATOR wine)
+# Under Wine, which is there once the tests run; tests/windows/with-wine makes the machine for them.
 set(CMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE PRE_TEST)
 
 set(wxWidgets_CONFIG_EXECUTABLE "${MARLO_WINDOWS_TOOLKIT}/bin/wx-config" CACHE FILEPATH "")
