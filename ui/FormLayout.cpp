@@ -30,6 +30,7 @@ constexpr std::int32_t kFindMargin = 25;
 constexpr std::int32_t kPaneMargin = 50;
 constexpr std::int32_t kImageMargin = 20;
 constexpr std::int32_t kMenuBottomMargin = 150;
+constexpr std::int32_t kFocusMargin = 55;  // for the ring around the item with the keyboard
 
 void SetWidth(Place& place, std::int32_t width) {
     if (width >= 0)
@@ -64,7 +65,7 @@ std::int32_t MenuGrowth(const FormLayout& layout) {
     for (std::size_t i = 0; i < kCommandItemCount; ++i)
         if (kCommandItems[i].pane == Pane::Menu)
             right = std::max(right, layout.cmdbuttons[i].Right());
-    return std::max(0, right - (kMenuLeft + kMenuWidth - kPaneMargin));
+    return std::max(0, right + kFocusMargin - (kMenuLeft + kMenuWidth - kPaneMargin));
 }
 
 void PlaceCsvIcons(FormLayout& layout) {
