@@ -13,16 +13,16 @@ namespace {
 
 using namespace registry_result;
 
-constexpr const wchar_t* kTestKey = L"MarloTest";
-
-/// A class with values; deleted with everything below it at the end of a test.
+/// A class with values, another one for each test that runs at the same time; deleted with
+/// everything below it at the end of the test.
 class WindowsRegistryTest : public testing::Test {
   protected:
-    ~WindowsRegistryTest() override { RegDeleteTreeW(HKEY_CLASSES_ROOT, kTestKey); }
+    ~WindowsRegistryTest() override { RegDeleteTreeA(HKEY_CLASSES_ROOT, testKey.c_str()); }
 
-    static void MakeKey(const std::wstring& below = L"", const wchar_t* value = nullptr,
-                        const std::wstring& text = L"") {
-        const std::wstring path = kTestKey + (below.empty() ? L"" : L"\\" + below);
+    void MakeKey(const std::wstring& below = L"", const wchar_t* value = nullptr,
+                 const std::wstring& text = L"") const {
+        const std::wstring path =
+            std::wstring(testKey.begin(), testKey.end()) + (below.empty() ? L"" : L"\\" + below);
         HKEY key = nullptr;
         ASSERT_EQ(RegCreateKeyExW(HKEY_CLASSES_ROOT, path.c_str(), 0, nullptr, 0, KEY_WRITE,
                                   nullptr, &key, nullptr),
@@ -34,9 +34,9 @@ class WindowsRegistryTest : public testing::Test {
     }
 
     /// A value of the test's key with its final NUL; "none" without one.
-    static std::string Read(const std::string& name, const std::string& below = "") {
+    std::string Read(const std::string& name, const std::string& below = "") const {
         RegistryKey key = 0;
-        if (SystemRegistry().OpenKey(kClassesRoot, "MarloTest" + below, key) != kSuccess)
+        if (SystemRegistry().OpenKey(kClassesRoot, testKey + below, key) != kSuccess)
             return "no key";
         std::int32_t type = 0;
         std::uint32_t length = 0;
@@ -47,11 +47,11 @@ class WindowsRegistryTest : public testing::Test {
     }
 
     /// The names of the keys below the test's key, in order.
-    static std::vector<std::string> Names() {
+    std::vector<std::string> Names() const {
         RegistryKey key = 0;
         std::uint32_t count = 0;
         std::uint32_t longest = 0;
-        EXPECT_EQ(SystemRegistry().OpenKey(kClassesRoot, "MarloTest", key), kSuccess);
+        EXPECT_EQ(SystemRegistry().OpenKey(kClassesRoot, testKey, key), kSuccess);
         EXPECT_EQ(SystemRegistry().QueryInfo(key, count, longest), kSuccess);
         std::vector<std::string> names;
         std::vector<char> buffer(longest + 1);
@@ -65,6 +65,8 @@ class WindowsRegistryTest : public testing::Test {
         SystemRegistry().CloseKey(key);
         return names;
     }
+
+    const std::string testKey = "MarloTest" + std::to_string(GetCurrentProcessId());
 };
 
 TEST_F(WindowsRegistryTest, NamesAndTextsAreInTheAnsiPageWhereTheyFit) {
@@ -87,7 +89,7 @@ TEST_F(WindowsRegistryTest, KeysAreCountedAndNamedInOrder) {
 
 TEST_F(WindowsRegistryTest, AnAbsentKeyIsNotFound) {
     RegistryKey key = 0;
-    EXPECT_EQ(SystemRegistry().OpenKey(kClassesRoot, "MarloTest", key), kFileNotFound);
+    EXPECT_EQ(SystemRegistry().OpenKey(kClassesRoot, testKey, key), kFileNotFound);
 }
 
 }  // namespace
