@@ -23,7 +23,7 @@ class Program {
   public:
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
-    Program(Program&&) noexcept;
+    Program(Program&& other) noexcept;
     Program& operator=(Program&&) = delete;
     ~Program();
 

@@ -21,18 +21,17 @@ bool IsDialog(HWND window) {
     return name.data() == dialogClass;
 }
 
+BOOL CALLBACK TakeNativeDialog(HWND window, LPARAM dialogs) {
+    if (IsDialog(window) && IsWindowVisible(window) != FALSE &&
+        wxFindWinFromHandle(window) == nullptr)
+        reinterpret_cast<std::set<HWND>*>(dialogs)->insert(window);
+    return TRUE;
+}
+
 /// The dialogs on the screen that are not the toolkit's.
 std::set<HWND> NativeDialogs() {
     std::set<HWND> dialogs;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM data) {
-            if (IsDialog(window) && IsWindowVisible(window) != FALSE &&
-                wxFindWinFromHandle(window) == nullptr)
-                reinterpret_cast<std::set<HWND>*>(data)->insert(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&dialogs));
+    EnumThreadWindows(GetCurrentThreadId(), TakeNativeDialog, reinterpret_cast<LPARAM>(&dialogs));
     return dialogs;
 }
 

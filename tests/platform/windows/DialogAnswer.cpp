@@ -11,21 +11,31 @@ namespace {
 /// A timer's routine gets nothing but its number.
 DialogAnswer* current = nullptr;
 
+BOOL CALLBACK TakeDialog(HWND window, LPARAM found) {
+    constexpr std::string_view dialogClass = "#32770";
+    std::array<char, 16> name{};
+    GetClassNameA(window, name.data(), static_cast<int>(name.size()));
+    if (name.data() != dialogClass || IsWindowVisible(window) == FALSE)
+        return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
 HWND OpenDialog() {
     HWND found = nullptr;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM data) {
-            constexpr std::string_view dialogClass = "#32770";
-            std::array<char, 16> name{};
-            GetClassNameA(window, name.data(), static_cast<int>(name.size()));
-            if (name.data() != dialogClass || IsWindowVisible(window) == FALSE)
-                return TRUE;
-            *reinterpret_cast<HWND*>(data) = window;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&found));
+    EnumThreadWindows(GetCurrentThreadId(), TakeDialog, reinterpret_cast<LPARAM>(&found));
     return found;
+}
+
+struct TextSearch {
+    const std::string& text;
+    bool isFound = false;
+};
+
+BOOL CALLBACK LookForText(HWND window, LPARAM data) {
+    auto& search = *reinterpret_cast<TextSearch*>(data);
+    search.isFound = search.isFound || TextOf(window) == search.text;
+    return TRUE;
 }
 
 }  // namespace
@@ -64,18 +74,8 @@ std::string TextOf(HWND window) {
 }
 
 bool Shows(HWND dialog, const std::string& text) {
-    struct Search {
-        const std::string& text;
-        bool isFound = false;
-    } search{text};
-    EnumChildWindows(
-        dialog,
-        [](HWND window, LPARAM data) {
-            auto& wanted = *reinterpret_cast<Search*>(data);
-            wanted.isFound = wanted.isFound || TextOf(window) == wanted.text;
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
+    TextSearch search{text};
+    EnumChildWindows(dialog, LookForText, reinterpret_cast<LPARAM>(&search));
     return search.isFound;
 }
 
