@@ -6,6 +6,8 @@ if(MARLO_WINDOWS_HOST MATCHES "^x86_64")
   set(CMAKE_SYSTEM_PROCESSOR AMD64)
 else()
   set(CMAKE_SYSTEM_PROCESSOR x86)
+  # With the older way to calculate, numbers would have other last digits than everywhere else.
+  set(CMAKE_CXX_FLAGS_INIT "-msse2 -mfpmath=sse")
 endif()
 
 # The variant with the threads of the C++ library.
