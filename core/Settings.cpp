@@ -75,7 +75,8 @@ bool WriteSetting(const Application& application, std::int16_t record, std::stri
 }
 
 bool FitsSetting(std::string_view value) {
-    return value.size() <= kMaxSettingLength && TrimSpaces(value) == value;
+    return value.size() <= kMaxSettingLength && TrimSpaces(value) == value &&
+           !value.starts_with('\0');
 }
 
 std::string SettingDate(const std::tm& moment) {

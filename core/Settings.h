@@ -44,7 +44,8 @@ std::string getSetting(const Application& application, std::int16_t record);
 /// @return false after a failure, which is logged under "WriteSetting".
 bool WriteSetting(const Application& application, std::int16_t record, std::string_view value);
 
-/// Whether a setting gives `value` back as it is: neither cut nor trimmed.
+/// Whether a setting gives `value` back as it is: neither cut nor trimmed, nor taken for a record
+/// that was never written, as one that begins with a NUL is.
 bool FitsSetting(std::string_view value);
 
 /// A date and time in the fixed form of the settings, "mm-dd-yyyy hh:mm:ss", 24 hours.

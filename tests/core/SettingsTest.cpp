@@ -116,6 +116,8 @@ TEST_F(SettingsTest, AValueFitsWhenItComesBackAsItIs) {
     EXPECT_FALSE(FitsSetting(std::string(257, 'x')));
     EXPECT_FALSE(FitsSetting("x "));
     EXPECT_FALSE(FitsSetting(" x"));
+    EXPECT_FALSE(FitsSetting(std::string("\0x", 2)));
+    EXPECT_TRUE(FitsSetting(std::string("x\0", 2)));
 }
 
 TEST_F(SettingsTest, DatesHaveAFixedForm) {
