@@ -1,3 +1,4 @@
+#include <array>
 #include <chrono>
 #include <filesystem>
 #include <random>
@@ -16,7 +17,8 @@ namespace {
 using test::Program;
 
 constexpr int kProjects = 10000;
-constexpr int kKills = 50;
+/// While settings are written; twice as many in a search.
+const std::size_t kKills = test::HasUnixShell() ? 50 : 15;  // Wine takes long for each
 const std::vector<std::string> kFiles = {"results.csv", "fln.csv", "tln.csv"};
 
 class KillTest : public test::CliTest {
@@ -33,6 +35,14 @@ class KillTest : public test::CliTest {
         return folder.Path(name);
     }
 
+    /// Starts the program and kills it some time later, at the latest after `most`.
+    void RunAndKill(const std::vector<std::string>& arguments, std::chrono::microseconds most) {
+        auto program = Program::Start(CommandLine(arguments));
+        std::this_thread::sleep_for(most * (random() % 1000) / 1000);
+        program.Kill();
+        program.Wait();
+    }
+
     std::filesystem::file_time_type LastWritten() const {
         return std::filesystem::last_write_time(folder.Path("app/resultfiles/results.csv"));
     }
@@ -46,6 +56,8 @@ class KillTest : public test::CliTest {
             texts.push_back(Result(name));
         return texts;
     }
+
+    std::mt19937 random{20261115};
 };
 
 TEST_F(KillTest, AKillAtAnyMomentLeavesEveryResultFileWhole) {
@@ -57,14 +69,12 @@ TEST_F(KillTest, AKillAtAnyMomentLeavesEveryResultFileWhole) {
     const auto duration = (std::chrono::steady_clock::now() - start) / 2;
     ASSERT_NE(whole[0], whole[1]);
 
-    std::mt19937 random(20261115);
     std::set<bool> changed;
-    for (int kill = 0; kill < kKills; ++kill) {
+    for (std::size_t kill = 0; kill < 2 * kKills; ++kill) {
         const std::string before = Result("results.csv");
         const auto lastWritten = LastWritten();
         std::filesystem::remove(NewVersion());
-        auto program =
-            Program::Start(CommandLine({"search", libraries[static_cast<std::size_t>(kill) % 2]}));
+        auto program = Program::Start(CommandLine({"search", libraries[kill % 2]}));
         // Half of the kills come while the files are written, the rest whenever they come.
         const bool duringWriting = kill % 4 < 2;
         while (duringWriting && program.IsRunning() && !std::filesystem::exists(NewVersion()) &&
@@ -86,6 +96,41 @@ TEST_F(KillTest, AKillAtAnyMomentLeavesEveryResultFileWhole) {
 
     EXPECT_EQ(SearchWhole(libraries[0]), whole[0]);
     EXPECT_FALSE(std::filesystem::exists(NewVersion()));
+}
+
+TEST_F(KillTest, AKillWhileSettingsAreWrittenLeavesEachOldOrNew) {
+    const std::array<std::string, 2> programs = {folder.Write("sheets", "program"),
+                                                 folder.Write("other sheets", "program")};
+    const std::array<std::string, 2> flags = {"on", "off"};
+    const auto set = [&](std::size_t which) {
+        return std::vector<std::string>{"options",      "--csv-program", programs.at(which),
+                                        "--ignore-off", flags.at(which), "--ignore-directx",
+                                        flags.at(which)};
+    };
+    ASSERT_EQ(Marlo(set(0)).exitCode, 0);
+    const auto start = std::chrono::steady_clock::now();
+    ASSERT_EQ(Marlo(set(1)).exitCode, 0);
+    const auto duration = std::chrono::duration_cast<std::chrono::microseconds>(
+        std::chrono::steady_clock::now() - start);
+    const std::size_t size = folder.Read("app/settings.ini").size();
+
+    std::set<bool> changed;
+    for (std::size_t kill = 0; kill < kKills; ++kill) {
+        const std::string before = Setting(4);
+        RunAndKill(set(before == programs[0] ? 1 : 0), 2 * duration);
+        EXPECT_EQ(folder.Read("app/settings.ini").size(), size);
+        const std::string program = Setting(4);
+        ASSERT_TRUE(program == programs[0] || program == programs[1]) << "after kill " << kill;
+        changed.insert(program != before);
+        for (const std::size_t flag : {20, 21})
+            ASSERT_TRUE(Setting(flag) == "1" || Setting(flag) == "0") << "after kill " << kill;
+    }
+    EXPECT_EQ(changed.size(), 2U) << "the kills came all before or all after the writing";
+
+    ASSERT_EQ(Marlo(set(0)).exitCode, 0);
+    EXPECT_EQ(Setting(4), programs[0]);
+    EXPECT_EQ(Setting(20), "1");
+    EXPECT_EQ(Setting(21), "1");
 }
 
 }  // namespace
