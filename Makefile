@@ -4,7 +4,7 @@
 PACKAGES := packaging/install-packages
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-.PHONY: help run build test test-sanitizer test-windows bench bench-windows package package-windows \
+.PHONY: help run build test test-sanitizer test-windows fuzz fuzzers bench bench-windows package package-windows \
 	screenshots pictures format lint clean
 
 help: ## List the targets
@@ -22,7 +22,8 @@ build:
 	@cmake --preset normal --log-level=WARNING
 	@cmake --build --preset normal
 
-test: build ## Build everything and run every test
+test: build fuzzers ## Build everything, run every test, and each fuzzer for some seconds
+	ctest --preset fuzz -j 2
 	ctest --preset normal -j 2
 
 test-sanitizer: ## The same tests with AddressSanitizer and UndefinedBehaviorSanitizer
@@ -39,6 +40,14 @@ test-windows: ## Build for Windows and run every test under Wine
 	@cmake --build --preset windows64
 	tests/windows/with-wine ctest --preset windows64 -j 2 --repeat after-timeout:2
 	@tests/windows/run-32-bit
+
+fuzzers:
+	@$(PACKAGES) build fuzz
+	@cmake --preset fuzz --log-level=WARNING
+	@cmake --build --preset fuzz
+
+fuzz: fuzzers ## Run each fuzzer for a minute, or for SECONDS
+	fuzz/run build/fuzz $(or $(SECONDS),60)
 
 bench: ## Measure speed against baselines from the same run
 	@$(PACKAGES) build bench

@@ -11,9 +11,9 @@
 #include <gtest/gtest.h>
 
 #include "scan/BlockReader.h"
-#include "scan/ProjectPlugins.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/LiteralReader.h"
+#include "tests/support/ScanComparison.h"
 #include "tools/ProjectWriter.h"
 
 namespace marlo {
@@ -139,21 +139,7 @@ class ExtractionComparisonTest : public test::ApplicationTest {
     void Compare(const std::string& bytes) {
         const std::string path = folder.Write("project.cpr", bytes);
         const test::ScanResult expected = test::ScanLiterally(path, bytes);
-        SearchLists lists;
-        std::string procedure;
-        application.onErrorLogged = [&](const ErrorEntry& entry) { procedure = entry.procedure; };
-
-        ASSERT_EQ(GetPlugins4Project(application, lists, path), expected.completed);
-        ASSERT_TRUE(std::equal(lists.PluginOccurrences.begin(), lists.PluginOccurrences.end(),
-                               expected.occurrences.begin(), expected.occurrences.end()));
-        ASSERT_EQ(lists.ProjectPluginKeys.UpperBound(), expected.keys.size());
-        for (std::size_t i = 0; i < expected.keys.size(); ++i) {
-            ASSERT_EQ(lists.ProjectPluginKeys[i + 1].key, expected.keys[i]);
-            ASSERT_EQ(lists.ProjectPluginKeys[i + 1].state, expected.states[i]);
-        }
-        if (!expected.completed) {
-            ASSERT_EQ(procedure, "GetPlugins4Project " + path + " " + expected.lastRecord);
-        }
+        ASSERT_EQ(test::ScanDifference(application, path, expected), "");
         Count(expected);
     }
 
