@@ -33,6 +33,6 @@ int main(int argc, char** argv) {
     using namespace marlo::cli;
     marlo::platform::PrepareStreams();
     const auto answer = ReadCommandLine({argv + 1, argv + argc});
-    const auto* const request = std::get_if<Request>(&answer);
-    return request != nullptr ? Run(*request) : std::get<int>(answer);
+    const auto* const exitCode = std::get_if<int>(&answer);
+    return exitCode != nullptr ? *exitCode : Run(*std::get_if<Request>(&answer));
 }
