@@ -100,10 +100,6 @@ bool StagedFile::Create() {
     return isStaged_;
 }
 
-void StagedFile::WriteLine(std::string_view text) {
-    writer_.WriteLine(text);
-}
-
 bool StagedFile::MoveIntoPlace() {
     writer_.FlushToDisk();
     const bool moved = Try(

@@ -47,9 +47,8 @@ class StagedFile {
     ///         to ask about.
     bool Create();
 
-    /// Writes `text` and the line end CR LF.
-    /// @throws RunTimeError when the disk is full or fails.
-    void WriteLine(std::string_view text);
+    /// Writes the new version's lines.
+    LineWriter& Lines() { return writer_; }
 
     /// Takes the old file's place. Asks while the old file cannot be replaced.
     /// @throws RunTimeError when something else than a file is in the way, or the disk is full.

@@ -1,29 +1,20 @@
 #include "inventory/InstalledPlugins.h"
 
-#include <system_error>
-#include <utility>
+#include <functional>
 
 #include "core/ErrorLog.h"
 #include "core/Files.h"
 #include "core/LineWriter.h"
-#include "core/RunTimeError.h"
 #include "core/Settings.h"
 #include "inventory/DirectXPlugins.h"
 #include "inventory/ScanVSTFolder.h"
 #include "inventory/VstFolders.h"
-#include "platform/File.h"
 
 namespace marlo {
 
 namespace {
 
-LineWriter OpenOutput(const Application& application) {
-    std::error_code error;
-    auto file = platform::File::OpenForAppending(
-        ApplicationPath(application, "\\Resultfiles\\installedplugins.csv"), error);
-    ThrowOnPath(error);
-    return LineWriter(std::move(file));
-}
+constexpr const char* kList = "\\Resultfiles\\installedplugins.csv";
 
 /// Scans the folders of the settings until the user cancels.
 void ScanVSTFolders(const Application& application, MainWindow& window, LineWriter& output,
@@ -31,7 +22,6 @@ void ScanVSTFolders(const Application& application, MainWindow& window, LineWrit
     for (const std::string& folder : ReadVstFolders(application)) {
         bool cancelled = false;
         ScanVSTFolder(application, window, folder, true, output, cancelled);
-        output.Flush();
         if (cancelled) {
             summary.outcome = InventoryOutcome::Cancelled;
             window.ShowMessage({.text = "Cancelled"});
@@ -40,16 +30,11 @@ void ScanVSTFolders(const Application& application, MainWindow& window, LineWrit
     }
 }
 
-void FindPlugins(const Application& application, MainWindow& window, InventorySummary& summary) {
-    MessageAnswer answer = MessageAnswer::None;
-    AskCloseFileInUse(application, window, "\\Resultfiles\\installedplugins.csv", answer);
-    if (answer == MessageAnswer::Cancel)
-        return;
-    LineWriter output = OpenOutput(application);
+void FindPlugins(const Application& application, MainWindow& window, LineWriter& output,
+                 InventorySummary& summary) {
     window.SetText1("Searching for installed DirectX Plugins...");
     window.Repaint();
     GetDirectXPlugins(application, window, output);
-    output.Flush();
     summary.directX = output.LineCount();
     window.SetText1("Searching for installed VST Plugins...");
     summary.outcome = InventoryOutcome::Completed;
@@ -58,18 +43,35 @@ void FindPlugins(const Application& application, MainWindow& window, InventorySu
     WriteSetting(application, setting::kLastInventory, SettingDate(application.clock.Now()));
 }
 
+/// Logs a failure of `body`.
+void RunPart(const Application& application, InventorySummary& summary,
+             const std::function<void()>& body) {
+    if (!RunGuarded(application, "RefreshPlugins", body))
+        summary.outcome = InventoryOutcome::Failed;
+}
+
+void ReplaceList(const Application& application, MainWindow& window, InventorySummary& summary) {
+    MessageAnswer answer = MessageAnswer::None;
+    AskCloseFileInUse(application, window, kList, answer);
+    if (answer == MessageAnswer::Cancel)
+        return;
+    StagedFile list(application, window, kList);
+    if (!list.Create())
+        return;
+    RunPart(application, summary, [&] { FindPlugins(application, window, list.Lines(), summary); });
+    // Also after a failure: what was found until then is kept.
+    list.MoveIntoPlace();
+}
+
 }  // namespace
 
 InventorySummary RefreshPlugins(const Application& application, MainWindow& window) {
     InventorySummary summary;
     window.SetCancelTag("");
     window.DisableButtons();
-    const bool completed = RunGuarded(application, "RefreshPlugins",
-                                      [&] { FindPlugins(application, window, summary); });
-    if (!completed) {
-        summary.outcome = InventoryOutcome::Failed;
+    RunPart(application, summary, [&] { ReplaceList(application, window, summary); });
+    if (summary.outcome == InventoryOutcome::Failed)
         ShowUnexpectedError(window);
-    }
     window.EnableButtons();
     window.ClearStatusBar();
     return summary;

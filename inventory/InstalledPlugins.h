@@ -29,8 +29,9 @@ struct InventorySummary {
 ///
 /// Writes setting 15 (date and time), also after the user cancelled. Cancel is seen when the scan
 /// enters a folder. An unexpected failure is logged under "RefreshPlugins" and told to the user.
-/// However the run ends, the file keeps what was written, the buttons are enabled again and the
-/// status boxes cleared.
+/// The file is deleted at the start and there again, whole, at the end (see `StagedFile`); what ends
+/// the program in between leaves none. However the run ends, the file keeps what was found, the
+/// buttons are enabled again and the status boxes cleared.
 InventorySummary RefreshPlugins(const Application& application, MainWindow& window);
 
 /// Answers for one report or search which plug-ins are installed, from

@@ -17,7 +17,7 @@ bool WriteOccurrences(const Application& application, MainWindow& window,
     if (!file.Create())
         return false;
     for (const std::string_view occurrence : occurrences)
-        file.WriteLine(occurrence);
+        file.Lines().WriteLine(occurrence);
     return file.MoveIntoPlace();
 }
 
@@ -27,7 +27,7 @@ bool WriteStates(const Application& application, MainWindow& window, std::string
     if (!file.Create())
         return false;
     for (const auto& [key, state] : states)
-        file.WriteLine(std::string(key) + "," + Quoted(state));
+        file.Lines().WriteLine(std::string(key) + "," + Quoted(state));
     return file.MoveIntoPlace();
 }
 

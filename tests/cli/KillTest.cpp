@@ -17,7 +17,8 @@ namespace {
 using test::Program;
 
 constexpr int kProjects = 10000;
-/// While settings are written; twice as many in a search.
+constexpr int kLibraries = 20000;
+/// In each of the two shorter tests; twice as many in the search.
 const std::size_t kKills = test::HasUnixShell() ? 50 : 15;  // Wine takes long for each
 const std::vector<std::string> kFiles = {"results.csv", "fln.csv", "tln.csv"};
 
@@ -96,6 +97,31 @@ TEST_F(KillTest, AKillAtAnyMomentLeavesEveryResultFileWhole) {
 
     EXPECT_EQ(SearchWhole(libraries[0]), whole[0]);
     EXPECT_FALSE(std::filesystem::exists(NewVersion()));
+}
+
+TEST_F(KillTest, AKillDuringTheInventoryLeavesAWholeListOrNone) {
+    const std::string first = folder.Write("vst/Effect 0.dll", "MZ");
+    for (int i = 1; i < kLibraries; ++i)
+        std::filesystem::create_hard_link(first,
+                                          folder.Path("vst/Effect " + std::to_string(i) + ".dll"));
+    ASSERT_EQ(Marlo({"folders", "add", folder.Path("vst")}).exitCode, 0);
+    const auto start = std::chrono::steady_clock::now();
+    ASSERT_EQ(Marlo({"installed"}).exitCode, 0);
+    const auto duration = std::chrono::duration_cast<std::chrono::microseconds>(
+        std::chrono::steady_clock::now() - start);
+    const std::string whole = Result("installedplugins.csv");
+
+    std::set<bool> isThere;
+    for (std::size_t kill = 0; kill < kKills; ++kill) {
+        RunAndKill({"installed"}, 2 * duration);
+        const bool isListed = folder.Exists("app/resultfiles/installedplugins.csv");
+        ASSERT_TRUE(!isListed || Result("installedplugins.csv") == whole) << "after kill " << kill;
+        isThere.insert(isListed);
+    }
+    EXPECT_EQ(isThere.size(), 2U) << "the kills came all before or all after the writing";
+
+    EXPECT_EQ(Marlo({"installed"}).exitCode, 0);
+    EXPECT_EQ(Result("installedplugins.csv"), whole);
 }
 
 TEST_F(KillTest, AKillWhileSettingsAreWrittenLeavesEachOldOrNew) {

@@ -124,7 +124,7 @@ TEST_F(FilesTest, AStagedFileIsNotSeenBeforeItIsInPlace) {
     folder.Write("resultfiles/results.csv", "old");
     StagedFile file(application, window, kResults);
     EXPECT_TRUE(file.Create());
-    file.WriteLine("new");
+    file.Lines().WriteLine("new");
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
     EXPECT_TRUE(file.MoveIntoPlace());
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
@@ -136,7 +136,7 @@ TEST_F(FilesTest, AStagedFileThatIsGivenUpLeavesNothingBehind) {
     {
         StagedFile file(application, window, kResults);
         EXPECT_TRUE(file.Create());
-        file.WriteLine("new");
+        file.Lines().WriteLine("new");
     }
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
     EXPECT_FALSE(folder.Exists("resultfiles/results.csv.new"));
@@ -146,7 +146,7 @@ TEST_F(FilesTest, WhatAKilledRunLeftIsOverwritten) {
     folder.Write("resultfiles/results.csv.new", std::string(1000, 'x'));
     StagedFile file(application, window, kResults);
     EXPECT_TRUE(file.Create());
-    file.WriteLine("new");
+    file.Lines().WriteLine("new");
     EXPECT_TRUE(file.MoveIntoPlace());
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
 }
@@ -165,7 +165,7 @@ TEST_F(FilesTest, WhileAnotherProgramStagesTheFileTheUserIsAsked) {
     folder.Write("resultfiles/results.csv", "old");
     StagedFile first(application, window, kResults);
     EXPECT_TRUE(first.Create());
-    first.WriteLine("first");
+    first.Lines().WriteLine("first");
     window.answers = {MessageAnswer::Ok, MessageAnswer::Cancel};
     {
         StagedFile second(application, window, kResults);
@@ -189,7 +189,7 @@ TEST_F(FilesTest, AStagedFileLargerThanItsBufferIsWhole) {
     StagedFile file(application, window, kResults);
     EXPECT_TRUE(file.Create());
     for (int i = 0; i < 50000; ++i) {
-        file.WriteLine("line " + std::to_string(i));
+        file.Lines().WriteLine("line " + std::to_string(i));
         expected += "line " + std::to_string(i) + "\r\n";
     }
     EXPECT_TRUE(file.MoveIntoPlace());
@@ -223,7 +223,7 @@ TEST_F(FilesTest, InAReadOnlyFolderTheUserIsAskedUntilItIsWritable) {
     };
     StagedFile file(application, window, kResults);
     EXPECT_TRUE(file.Create());
-    file.WriteLine("new");
+    file.Lines().WriteLine("new");
     EXPECT_TRUE(file.MoveIntoPlace());
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
     EXPECT_EQ(window.MessageTexts(), std::vector{Question()});
@@ -246,7 +246,7 @@ TEST_F(HeldFileTest, AStagedFileLeavesTheOldOneWhenTheUserCancels) {
     {
         StagedFile file(application, window, kResults);
         EXPECT_TRUE(file.Create());
-        file.WriteLine("new");
+        file.Lines().WriteLine("new");
         EXPECT_FALSE(file.MoveIntoPlace());
     }
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
@@ -259,7 +259,7 @@ TEST_F(HeldFileTest, AStagedFileTakesItsPlaceOnceTheOldOneIsFree) {
     {
         StagedFile file(application, window, kResults);
         EXPECT_TRUE(file.Create());
-        file.WriteLine("new");
+        file.Lines().WriteLine("new");
         EXPECT_TRUE(file.MoveIntoPlace());
     }
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "new\r\n");
