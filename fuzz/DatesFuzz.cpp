@@ -8,8 +8,7 @@
 using namespace marlo;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::Sandbox sandbox;
-    sandbox.Reset();
+    fuzz::Sandbox& sandbox = fuzz::CleanSandbox();
     const std::string text(fuzz::TextOf(data, size));
     UnFormatDate(sandbox.application, text);
     FormatDate(sandbox.application, text);

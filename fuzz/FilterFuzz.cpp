@@ -8,8 +8,7 @@
 using namespace marlo;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::Sandbox sandbox;
-    sandbox.Reset();
+    fuzz::Sandbox& sandbox = fuzz::CleanSandbox();
     if (size == 0)
         return 0;
     // The first byte is the type of the value, which is binary in registries that are sound.

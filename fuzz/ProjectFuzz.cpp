@@ -6,8 +6,7 @@
 using namespace marlo;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::Sandbox sandbox;
-    sandbox.Reset();
+    fuzz::Sandbox& sandbox = fuzz::CleanSandbox();
     const std::string bytes(fuzz::TextOf(data, size));
     const std::string path = sandbox.folder.Write("project.cpr", bytes);
     const test::ScanResult expected = test::ScanLiterally(path, bytes);

@@ -8,8 +8,7 @@
 using namespace marlo;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::Sandbox sandbox;
-    sandbox.Reset();
+    fuzz::Sandbox& sandbox = fuzz::CleanSandbox();
     if (size == 0)
         return 0;
     const auto fieldCount = static_cast<std::int32_t>(data[0] % 16) - 1;

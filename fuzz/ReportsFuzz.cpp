@@ -20,8 +20,7 @@ void LookAtAllCells(const ResultList& list) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::Sandbox sandbox;
-    sandbox.Reset();
+    fuzz::Sandbox& sandbox = fuzz::CleanSandbox();
     if (size == 0)
         return 0;
     const unsigned choices = data[0];

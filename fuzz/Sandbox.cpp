@@ -6,13 +6,15 @@
 
 namespace marlo::fuzz {
 
-void Sandbox::Reset() {
-    window.events.clear();
-    window.messages.clear();
-    window.answers.clear();
-    desktop.shellRequests.clear();
+Sandbox& CleanSandbox() {
+    static Sandbox sandbox;
+    sandbox.window.events.clear();
+    sandbox.window.messages.clear();
+    sandbox.window.answers.clear();
+    sandbox.desktop.shellRequests.clear();
     std::error_code ignored;
-    std::filesystem::remove(folder.Path("resultfiles/errorlog.txt"), ignored);
+    std::filesystem::remove(sandbox.folder.Path("resultfiles/errorlog.txt"), ignored);
+    return sandbox;
 }
 
 std::string_view TextOf(const std::uint8_t* data, std::size_t size) {

@@ -15,12 +15,8 @@ namespace marlo::fuzz {
 
 /// An application that a fuzzing process runs its inputs through, one after the other. What it logs
 /// is not kept.
-class Sandbox {
-  public:
+struct Sandbox {
     Sandbox() { folder.MakeFolder("resultfiles"); }
-
-    /// Before an input: forgets what the one before it left in memory, and the log's file.
-    void Reset();
 
     test::TempFolder folder;
     test::FakeClock clock;
@@ -29,6 +25,10 @@ class Sandbox {
     test::RecordingWindow window;
     Application application{folder.Path(), clock, desktop, registry, {}};
 };
+
+/// The process's sandbox, for the next input: without what the one before it left in memory, and
+/// without the log's file.
+Sandbox& CleanSandbox();
 
 /// The bytes of an input as text.
 std::string_view TextOf(const std::uint8_t* data, std::size_t size);

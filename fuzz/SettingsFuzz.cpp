@@ -19,8 +19,7 @@ std::string WithoutFilling(const std::string& value) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::Sandbox sandbox;
-    sandbox.Reset();
+    fuzz::Sandbox& sandbox = fuzz::CleanSandbox();
     constexpr std::size_t head = 2;
     if (size < head)
         return 0;

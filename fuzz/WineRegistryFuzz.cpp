@@ -42,8 +42,7 @@ void Walk(platform::Registry& registry, platform::RegistryKey hive, const std::s
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::Sandbox sandbox;
-    sandbox.Reset();
+    fuzz::Sandbox& sandbox = fuzz::CleanSandbox();
     const auto files = fuzz::PartsOf(fuzz::TextOf(data, size), 2);
     sandbox.folder.Write("system.reg", files[0]);
     sandbox.folder.Write("user.reg", files[1]);

@@ -1,4 +1,5 @@
 #include <array>
+#include <array>
 #include <filesystem>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
@@ -97,21 +98,8 @@ TEST_F(StartTest, EveryControlIsFoundByItsName) {
 
 TEST_F(StartTest, TheCommandItemsHaveTheirCaptions) {
     Open();
-    const std::array<const char*, kCommandItemCount> captions = {"Search SX Projects",
-                                                                 "Find installed Plugins",
-                                                                 "Show unused Plugins",
-                                                                 "Show used Plugins",
-                                                                 "Show installed Plugins",
-                                                                 "Show uninstalled Plugins",
-                                                                 "Plugins by Project",
-                                                                 "Installed Plugins",
-                                                                 "Options",
-                                                                 "Help",
-                                                                 "About",
-                                                                 "Search for Projects by Plugin",
-                                                                 "Cancel"};
-    for (std::size_t i = 0; i < captions.size(); ++i)
-        EXPECT_EQ(Item(i).Caption(), captions.at(i));
+    for (std::size_t i = 0; i < kCommandItems.size(); ++i)
+        EXPECT_EQ(Item(i).Caption(), kCommandItems.at(i).caption);
 }
 
 TEST_F(StartTest, TheCommandItemsStandInTheirPlaces) {
