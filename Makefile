@@ -4,7 +4,7 @@
 PACKAGES := packaging/install-packages
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-.PHONY: help run build test test-sanitizer test-windows fuzz fuzzers bench bench-windows package package-windows \
+.PHONY: help run build test sanitized test-asan-gui test-windows fuzz fuzzers bench bench-windows package package-windows \
 	screenshots pictures format lint clean
 
 help: ## List the targets
@@ -22,15 +22,21 @@ build:
 	@cmake --preset normal --log-level=WARNING
 	@cmake --build --preset normal
 
-test: build fuzzers ## Build everything, run every test, and each fuzzer for some seconds
+test: build sanitized fuzzers ## Build and run every test, the unit tests with sanitizers too, and the fuzzers
 	ctest --preset fuzz -j 2
+	ctest --preset sanitizer -j 2
 	ctest --preset normal -j 2
 
-test-sanitizer: ## The same tests with AddressSanitizer and UndefinedBehaviorSanitizer
+sanitized:
 	@$(PACKAGES) build
 	@cmake --preset sanitizer --log-level=WARNING
 	@cmake --build --preset sanitizer
-	ctest --preset sanitizer -j 2
+
+test-asan-gui: ## Run the tests of the window with AddressSanitizer and UndefinedBehaviorSanitizer
+	@$(PACKAGES) build
+	@cmake --preset sanitizer --log-level=WARNING
+	@cmake --build --preset asan-gui
+	ctest --preset asan-gui -j 2
 
 test-windows: ## Build for Windows and run every test under Wine
 	@$(PACKAGES) build windows windows64
