@@ -102,6 +102,10 @@ bool StagedFile::Create() {
 
 bool StagedFile::MoveIntoPlace() {
     writer_.FlushToDisk();
+    return MoveWhatIsWrittenIntoPlace();
+}
+
+bool StagedFile::MoveWhatIsWrittenIntoPlace() {
     const bool moved = Try(
         [&](std::error_code& failure) { platform::MoveIntoPlace(stagingPath_, path_, failure); });
     isStaged_ = !moved;

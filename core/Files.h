@@ -50,9 +50,13 @@ class StagedFile {
     /// Writes the new version's lines.
     LineWriter& Lines() { return writer_; }
 
-    /// Takes the old file's place. Asks while the old file cannot be replaced.
+    /// Takes the old file's place when all of it is on the disk. Asks while the old file cannot be
+    /// replaced.
     /// @throws RunTimeError when something else than a file is in the way, or the disk is full.
     bool MoveIntoPlace();
+
+    /// The same with as much as could be written.
+    bool MoveWhatIsWrittenIntoPlace();
 
   private:
     bool Try(const std::function<void(std::error_code& error)>& attempt);

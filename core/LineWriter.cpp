@@ -1,6 +1,5 @@
 #include "core/LineWriter.h"
 
-#include <system_error>
 #include <utility>
 
 #include "core/RunTimeError.h"
@@ -18,9 +17,7 @@ LineWriter::LineWriter(platform::File file) : file_(std::move(file)) {
 }
 
 LineWriter::~LineWriter() {
-    std::error_code ignored;
-    if (!buffer_.empty())
-        file_.Write(buffer_, ignored);
+    HandOver();
 }
 
 void LineWriter::WriteLine(std::string_view text) {
@@ -30,19 +27,21 @@ void LineWriter::WriteLine(std::string_view text) {
         Flush();
 }
 
-void LineWriter::Flush() {
-    std::error_code error;
-    if (!buffer_.empty())
-        file_.Write(buffer_, error);
+void LineWriter::HandOver() {
+    if (!buffer_.empty() && !failure_)
+        file_.Write(buffer_, failure_);
     buffer_.clear();  // also after a failure: a part of it may have been written
-    ThrowOn(error);
+}
+
+void LineWriter::Flush() {
+    HandOver();
+    ThrowOn(failure_);
 }
 
 void LineWriter::FlushToDisk() {
     Flush();
-    std::error_code error;
-    file_.Flush(error);
-    ThrowOn(error);
+    file_.Flush(failure_);
+    ThrowOn(failure_);
 }
 
 }  // namespace marlo

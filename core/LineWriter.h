@@ -3,13 +3,15 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "platform/File.h"
 
 namespace marlo {
 
 /// Writes lines to a file, many at a time. What was written is in the file at the latest when the
-/// writer goes out of scope, also after a failure elsewhere.
+/// writer goes out of scope, also after a failure elsewhere. After a failure of its own it writes
+/// no more, so that the file never lacks lines in its middle, and fails at every flush.
 class LineWriter {
   public:
     /// Writes nowhere until another writer is assigned to it.
@@ -38,9 +40,12 @@ class LineWriter {
     void FlushToDisk();
 
   private:
+    void HandOver();
+
     platform::File file_;
     std::string buffer_;
     std::size_t lineCount_ = 0;
+    std::error_code failure_;
 };
 
 }  // namespace marlo

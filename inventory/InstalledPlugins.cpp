@@ -40,7 +40,7 @@ void FindPlugins(const Application& application, MainWindow& window, LineWriter&
     summary.outcome = InventoryOutcome::Completed;
     ScanVSTFolders(application, window, output, summary);
     summary.vst = output.LineCount() - summary.directX;
-    WriteSetting(application, setting::kLastInventory, SettingDate(application.clock.Now()));
+    output.FlushToDisk();
 }
 
 /// Logs a failure of `body`.
@@ -60,7 +60,10 @@ void ReplaceList(const Application& application, MainWindow& window, InventorySu
         return;
     RunPart(application, summary, [&] { FindPlugins(application, window, list.Lines(), summary); });
     // Also after a failure: what was found until then is kept.
-    list.MoveIntoPlace();
+    if (!list.MoveWhatIsWrittenIntoPlace())
+        summary = {};
+    else if (summary.outcome != InventoryOutcome::Failed)
+        WriteSetting(application, setting::kLastInventory, SettingDate(application.clock.Now()));
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 namespace marlo {
 
 enum class InventoryOutcome {
-    NotStarted,  ///< the user cancelled the question about the old file, which is as it was
+    NotStarted,  ///< the user cancelled the question about an old file, which is as it was
     Completed,
     Cancelled,  ///< the file holds what was found before
     Failed,     ///< the same
@@ -29,9 +29,9 @@ struct InventorySummary {
 ///
 /// Writes setting 15 (date and time), also after the user cancelled. Cancel is seen when the scan
 /// enters a folder. An unexpected failure is logged under "RefreshPlugins" and told to the user.
-/// The file is deleted at the start and there again, whole, at the end (see `StagedFile`); what ends
-/// the program in between leaves none. However the run ends, the file keeps what was found, the
-/// buttons are enabled again and the status boxes cleared.
+/// The file is deleted at the start and there again at the end (see `StagedFile`); what ends the
+/// program in between leaves none. However the run ends, the file keeps what was found, or as much
+/// of it as the disk took, the buttons are enabled again and the status boxes cleared.
 InventorySummary RefreshPlugins(const Application& application, MainWindow& window);
 
 /// Answers for one report or search which plug-ins are installed, from

@@ -1,9 +1,11 @@
+#include <optional>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "core/LineWriter.h"
 #include "core/RunTimeError.h"
+#include "tests/support/System.h"
 #include "tests/support/TempFolder.h"
 
 namespace marlo {
@@ -46,12 +48,28 @@ TEST_F(LineWriterTest, ManyLinesGoOutBeforeTheEnd) {
     EXPECT_GT(folder.Read("file").size(), 500'000U);
 }
 
-TEST_F(LineWriterTest, WhatCannotBeWrittenIsAFailureAndIsNotTriedAgain) {
+TEST_F(LineWriterTest, AfterAFailureNothingMoreIsWrittenAndEveryFlushFails) {
     std::error_code error;
     LineWriter writer(platform::File::OpenForReading(folder.Write("file", ""), error));
     writer.WriteLine("a");
     EXPECT_THROW(writer.Flush(), RunTimeError);
-    EXPECT_NO_THROW(writer.Flush());
+    EXPECT_THROW(writer.Flush(), RunTimeError);
+    EXPECT_THROW(writer.FlushToDisk(), RunTimeError);
+}
+
+TEST_F(LineWriterTest, TheFileOfAFullDiskHasTheLinesFromTheFirstOnOnly) {
+    if (!test::FileSizeLimit::IsPossible())
+        GTEST_SKIP() << test::kNoFileSizeLimit;
+    {
+        std::optional<test::FileSizeLimit> full(5);
+        auto writer = Open(folder.Path("file"));
+        writer.WriteLine("one");
+        writer.WriteLine("two");
+        EXPECT_THROW(writer.Flush(), RunTimeError);
+        full.reset();
+        writer.WriteLine("three");
+    }
+    EXPECT_EQ(folder.Read("file"), "one\r\n");
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "inventory/InstalledPlugins.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/HeldFiles.h"
+#include "tests/support/System.h"
 #include "tools/FilterWriter.h"
 
 namespace marlo {
@@ -164,6 +165,41 @@ TEST_F(RefreshPluginsTest, AFailureIsLoggedAndToldAndWhatWasWrittenStays) {
     EXPECT_EQ(getSetting(application, 15), "");
     EXPECT_EQ(window.Count("EnableButtons"), 1U);
     EXPECT_EQ(window.events.back(), "ClearStatusBar");
+}
+
+TEST_F(RefreshPluginsTest, WhereverTheDiskIsFullTheListKeepsWhatWentOnIt) {
+    if (!test::FileSizeLimit::IsPossible())
+        GTEST_SKIP() << test::kNoFileSizeLimit;
+    AddEffect("Echo");
+    const std::string list = EffectLine("Echo") + AddLibrary(50, "A.dll", "A");
+    WriteSetting(application, 15, "before");
+    std::vector<int> numbers;
+    application.onErrorLogged = [&](const ErrorEntry& entry) { numbers.push_back(entry.number); };
+    for (std::size_t size = 0; size < list.size(); ++size) {
+        folder.Write(kFile, "old");
+        window.messages.clear();
+        numbers.clear();
+        InventorySummary summary;
+        {
+            const test::FileSizeLimit full(size);
+            summary = Refresh();
+        }
+        EXPECT_EQ(summary.outcome, InventoryOutcome::Failed);
+        EXPECT_EQ(List(), list.substr(0, size));
+        EXPECT_FALSE(folder.Exists(kFile + ".new"));
+        EXPECT_EQ(numbers, std::vector{61});
+        EXPECT_EQ(window.MessageTexts(), Texts{"An unexpected error occurred."});
+        EXPECT_EQ(getSetting(application, 15), "before");
+    }
+}
+
+TEST_F(RefreshPluginsTest, AFolderInTheListsPlaceIsAFailureAndTheTimeStays) {
+    folder.MakeFolder(kFile);
+    WriteSetting(application, 15, "before");
+    EXPECT_EQ(Refresh().outcome, InventoryOutcome::Failed);
+    EXPECT_EQ(window.MessageTexts(), Texts{"An unexpected error occurred."});
+    EXPECT_EQ(getSetting(application, 15), "before");
+    EXPECT_FALSE(folder.Exists(kFile + ".new"));
 }
 
 TEST_F(RefreshPluginsTest, WithoutAResultFolderTheRunFails) {
