@@ -16,10 +16,11 @@ namespace {
 
 using test::Program;
 
-constexpr int kProjects = 10000;
+constexpr int kProjects = test::kIsSanitized ? 2000 : 10000;
 constexpr int kLibraries = 20000;
-/// In each of the two shorter tests; twice as many in the search.
-const std::size_t kKills = test::HasUnixShell() ? 50 : 15;  // Wine takes long for each
+/// In each of the two shorter tests; twice as many in the search. Each takes long under Wine and
+/// with sanitizers.
+const std::size_t kKills = test::HasUnixShell() && !test::kIsSanitized ? 50 : 15;
 const std::vector<std::string> kFiles = {"results.csv", "fln.csv", "tln.csv"};
 
 class KillTest : public test::CliTest {

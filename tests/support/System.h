@@ -36,6 +36,14 @@ void RemoveTree(const std::filesystem::path& folder);
 bool CanBeOrdinaryUser();
 constexpr const char* kNoOrdinaryUser = "permissions hold nobody back here";
 
+/// Whether the tests are built with AddressSanitizer, with which everything takes several times as
+/// long.
+#ifdef __SANITIZE_ADDRESS__
+inline constexpr bool kIsSanitized = true;
+#else
+inline constexpr bool kIsSanitized = false;
+#endif
+
 /// Lets no file of this process grow beyond a size, as on a disk that is full, for as long as it
 /// lives.
 class FileSizeLimit {
@@ -57,7 +65,7 @@ bool HasUnixShell();
 constexpr const char* kNoUnixShell = "there are no Unix shell, terminals and signals here";
 
 /// Makes this process an ordinary user for as long as it lives: the permissions of files, which a
-/// super-user passes by, count. Takes effect for this thread only.
+/// super-user passes by, count.
 class OrdinaryUser {
   public:
     OrdinaryUser();
