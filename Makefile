@@ -59,7 +59,7 @@ bench: ## Measure speed against baselines from the same run
 	@$(PACKAGES) build bench
 	@cmake --preset release --log-level=WARNING
 	@cmake --build --preset release
-	build/release/bench/marlo-bench
+	build/release/bench/marlo-bench --benchmark_enable_random_interleaving=true
 	tests/gui/with-display build/release/bench/marlo-bench-window \
 		--benchmark_enable_random_interleaving=true
 

@@ -7,6 +7,9 @@
 
 namespace marlo::bench {
 
+/// Reads files with `read()`, in blocks of 256 KiB.
+void ReadFiles(benchmark::State& state, const std::vector<std::string>& paths);
+
 /// Reads the lines of files with `std::getline`.
 void ReadLines(benchmark::State& state, const std::vector<std::string>& paths);
 

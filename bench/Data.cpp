@@ -16,7 +16,6 @@ namespace marlo::bench {
 
 namespace {
 
-constexpr std::size_t kLibraryFiles = 300;
 constexpr double kSmallest = 80.0 * 1024;
 constexpr double kLargest = 8.0 * 1024 * 1024;
 constexpr double kLibrarySize = 400e6;
@@ -82,8 +81,8 @@ Application BenchApplication() {
             {}};
 }
 
-const std::vector<std::string>& RealisticLibrary() {
-    static const std::vector<std::string> paths = [] {
+std::vector<std::string> RealisticLibrary(std::size_t count) {
+    static const std::vector<std::string> all = [] {
         std::vector<std::string> made;
         std::uint32_t seed = 0;
         for (const std::size_t size : LibrarySizes()) {
@@ -93,6 +92,28 @@ const std::vector<std::string>& RealisticLibrary() {
         }
         return made;
     }();
+    std::vector<std::string> paths;
+    for (std::size_t i = 0; i < count; ++i)
+        paths.push_back(all.at(i * all.size() / count));
+    return paths;
+}
+
+std::string LibraryFolder(std::size_t count) {
+    const auto folder = std::filesystem::path(DataFolder()) / ("library-" + std::to_string(count));
+    const std::vector<std::string> projects = RealisticLibrary(kLibraryFiles);
+    std::filesystem::create_directories(folder);
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto link = folder / ("Song " + std::to_string(i) + ".cpr");
+        if (!std::filesystem::exists(link))
+            std::filesystem::create_hard_link(projects[i % projects.size()], link);
+    }
+    return folder.string();
+}
+
+std::vector<std::string> ProjectsOf(const std::string& folder) {
+    std::vector<std::string> paths;
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        paths.push_back(entry.path().string());
     return paths;
 }
 
@@ -133,12 +154,12 @@ std::string HostileFile(const std::string& name, std::string (*make)(std::size_t
                      [&] { return make(size); });
 }
 
-std::string FileTree(const std::string& name, std::size_t folderCount,
+std::string FileTree(const std::string& name, std::size_t fileCount,
                      const std::vector<std::string>& extensions) {
     constexpr std::size_t filesInFolder = 10;
     constexpr std::size_t foldersInFolder = 40;
     // The last file made tells that the tree is whole.
-    for (std::size_t i = 0; i < folderCount * filesInFolder; ++i) {
+    for (std::size_t i = 0; i < fileCount; ++i) {
         const std::size_t folder = i / filesInFolder;
         const std::string path = name + "/" + std::to_string(folder / foldersInFolder) + "/" +
                                  std::to_string(folder) + "/Plug-in " + std::to_string(i) +
@@ -203,20 +224,19 @@ std::string ResultFilesFolder(std::size_t used, std::size_t installed) {
     return (std::filesystem::path(DataFolder()) / name).string();
 }
 
-std::string SearchFolder() {
-    constexpr std::size_t lines = 1'000'000;
+std::string SearchFolder(std::size_t lines) {
+    const std::string name = "search-" + std::to_string(lines);
     constexpr std::size_t linesInProject = 20;
-    constexpr std::size_t distance = lines / kRareUses;
-    const std::vector<std::string> projects = SmallProjects(kRareUses);
-    WriteOnce("search/resultfiles/installedplugins.csv",
+    const std::vector<std::string> projects = SmallProjects(lines / kLinesPerRareUse);
+    WriteOnce(name + "/resultfiles/installedplugins.csv",
               [] { return std::string("\"VST\",\"Rare Gem\",\"/vst/Rare Gem.dll\"\r\n"); });
-    WriteOnce("search/resultfiles/fln.csv", [&] {
+    WriteOnce(name + "/resultfiles/fln.csv", [&] {
         std::ostringstream text;
         for (std::size_t i = 0; i < lines; ++i) {
-            const bool isRare = i % distance == 7;
+            const bool isRare = i % kLinesPerRareUse == 7;
             const std::size_t song = i / linesInProject;
             if (isRare)
-                text << '"' << projects[i / distance] << "\",\"" << kRarePlugin;
+                text << '"' << projects[i / kLinesPerRareUse] << "\",\"" << kRarePlugin;
             else
                 text << "\"/home/anna/Songs/Album " << song / 12 << "/Song " << song << ".cpr\",\""
                      << PluginName(i % 5000);
@@ -224,7 +244,7 @@ std::string SearchFolder() {
         }
         return text.str();
     });
-    return (std::filesystem::path(DataFolder()) / "search").string();
+    return (std::filesystem::path(DataFolder()) / name).string();
 }
 
 }  // namespace marlo::bench

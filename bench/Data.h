@@ -15,9 +15,19 @@ const std::string& DataFolder();
 /// An application in that folder, on this machine.
 Application BenchApplication();
 
-/// 300 projects of a real archive's sizes, 80 KiB to 8 MiB, 400 MB in all, each with a dozen
-/// plug-ins. @return their paths.
-const std::vector<std::string>& RealisticLibrary();
+/// The most projects that `RealisticLibrary` has.
+inline constexpr std::size_t kLibraryFiles = 300;
+
+/// Projects of a real archive's sizes, 80 KiB to 8 MiB, each with a dozen plug-ins; all of them
+/// have 400 MB. @param count how many, all sizes among them. @return their paths.
+std::vector<std::string> RealisticLibrary(std::size_t count);
+
+/// A folder of `count` projects, which are those of the library again and again, by hard links.
+/// @return its path.
+std::string LibraryFolder(std::size_t count);
+
+/// The paths of the projects in that folder.
+std::vector<std::string> ProjectsOf(const std::string& folder);
 
 /// `count` projects of 4 KiB that all use the same 20 plug-ins. @return their paths.
 std::vector<std::string> SmallProjects(std::size_t count);
@@ -30,9 +40,9 @@ std::string ProjectFolder(std::size_t count);
 std::string HostileFile(const std::string& name, std::string (*make)(std::size_t size),
                         std::size_t size);
 
-/// A tree of `folderCount` folders, forty in each at most, with ten empty files each, whose names
-/// end with `extensions` in turn. @return its path.
-std::string FileTree(const std::string& name, std::size_t folderCount,
+/// A tree of `fileCount` empty files, ten in each folder, and forty folders in another at most. The
+/// files' names end with `extensions` in turn. @return its path.
+std::string FileTree(const std::string& name, std::size_t fileCount,
                      const std::vector<std::string>& extensions);
 
 /// A Wine prefix whose "system.reg" has about `size` bytes, with `effectCount` registered effects
@@ -46,12 +56,12 @@ std::string PluginName(std::size_t number);
 /// lines as asked for. Half of the lines of the shorter file are in the longer one.
 std::string ResultFilesFolder(std::size_t used, std::size_t installed);
 
-/// A plug-in that `SearchFolder`'s projects use rarely.
+/// A plug-in that `SearchFolder`'s projects use rarely: in one line of `kLinesPerRareUse`.
 inline constexpr const char* kRarePlugin = "Rare Gem";
-inline constexpr std::size_t kRareUses = 1000;
+inline constexpr std::size_t kLinesPerRareUse = 1000;
 
-/// An application folder with an "fln.csv" of 1,000,000 lines, of which `kRareUses` are of
-/// `kRarePlugin`, and the projects of those.
-std::string SearchFolder();
+/// An application folder with an "fln.csv" of so many lines, and the projects of those that are of
+/// `kRarePlugin`.
+std::string SearchFolder(std::size_t lines);
 
 }  // namespace marlo::bench

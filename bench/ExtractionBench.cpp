@@ -1,14 +1,11 @@
 // How fast projects are scanned, against a plain loop that reads the same files.
 
-#include <array>
-#include <fcntl.h>
-#include <stdexcept>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
+#include "bench/Baselines.h"
 #include "bench/Data.h"
 #include "bench/Report.h"
 #include "core/Application.h"
@@ -21,33 +18,6 @@ namespace {
 constexpr std::size_t kMiB = std::size_t{1024} * 1024;
 
 using benchmark::State;
-
-/// Aligned, as reading into a buffer that is not takes some 40 % longer.
-struct alignas(4096) PlainBuffer : std::array<char, std::size_t{256} * 1024> {};
-
-std::size_t ReadPlainly(const std::string& path, PlainBuffer& buffer) {
-    const int file = open(path.c_str(), O_RDONLY);
-    if (file < 0)
-        throw std::runtime_error("cannot open " + path);
-    std::size_t total = 0;
-    for (;;) {
-        const ssize_t count = read(file, buffer.data(), buffer.size());
-        if (count <= 0)
-            break;
-        total += static_cast<std::size_t>(count);
-    }
-    close(file);
-    return total;
-}
-
-void ReadAll(State& state, const std::vector<std::string>& paths) {
-    static PlainBuffer buffer;
-    std::size_t total = 0;
-    for (auto iteration : state)
-        for (const std::string& path : paths)
-            total += ReadPlainly(path, buffer);
-    state.SetBytesProcessed(static_cast<std::int64_t>(total));
-}
 
 void ScanAll(State& state, const std::vector<std::string>& paths) {
     const Application application = BenchApplication();
@@ -100,43 +70,47 @@ std::string BanksWithOneLongName(std::size_t size) {
     return bytes + std::string(64, '\0');
 }
 
-/// What four times the input may cost. Beyond four, as the larger lists leave the processor's
-/// caches behind; a quadratic cost would be sixteen.
-constexpr double kMostGrowth = 8;
-
-/// A hostile file in two sizes; time has to grow as the size does.
-void RegisterGrowth(const std::string& name, std::string (*make)(std::size_t size)) {
-    for (const std::size_t size : {16 * kMiB, 64 * kMiB}) {
-        const std::string run = name + "-" + std::to_string(size / kMiB) + "MiB";
-        Register(run, [=](State& state) { ScanAll(state, {HostileFile(name, make, size)}); });
-    }
-    Compare({.what = name + ", 64 MiB against 16 MiB (ideal: 4)",
-             .numerator = name + "-64MiB",
-             .denominator = name + "-16MiB",
-             .atMost = kMostGrowth});
+/// A hostile file in three sizes. How often its bytes go into a record is what it costs.
+void RegisterHostile(const std::string& name, std::string (*make)(std::size_t size),
+                     double mostRatio) {
+    const auto paths = [=](std::size_t mebibytes) {
+        return std::vector{HostileFile(name, make, mebibytes * kMiB)};
+    };
+    Register({.name = name,
+              .what = "scan of one project of " + name + ", MiB",
+              .run = [=](State& state, std::size_t size) { ScanAll(state, paths(size)); },
+              .baselineName = "reading it",
+              .baseline = [=](State& state, std::size_t size) { ReadFiles(state, paths(size)); },
+              .sizes = {4, 16, 64},
+              .mostRatio = mostRatio,
+              .mostGrowth = 2});
 }
 
 const bool registered = [] {
-    Register("library-read", [](State& state) { ReadAll(state, RealisticLibrary()); });
-    Register("library-scan", [](State& state) { ScanAll(state, RealisticLibrary()); });
-    Compare({.what = "throughput of scanning against reading, 300 projects, 400 MB",
-             .numerator = "library-read",
-             .denominator = "library-scan",
-             .atLeast = 0.7});
-
-    RegisterGrowth("only-Cs", OnlyCs);
-    RegisterGrowth("chained-banks", ChainedBanks);
-    RegisterGrowth("chained-banks-without-end", ChainedBanksWithoutEnd);
-    RegisterGrowth("banks-that-share-a-name", BanksThatShareAName);
-    RegisterGrowth("banks-with-one-long-name", BanksWithOneLongName);
-
-    for (const std::size_t count : {2500U, 10000U})
-        Register("same-plugins-" + std::to_string(count) + "-projects",
-                 [=](State& state) { ScanAll(state, SmallProjects(count)); });
-    Compare({.what = "same plug-ins, 10,000 projects against 2,500 (ideal: 4)",
-             .numerator = "same-plugins-10000-projects",
-             .denominator = "same-plugins-2500-projects",
-             .atMost = kMostGrowth});
+    Register(
+        {.name = "library",
+         .what = "scan of projects of 80 KiB to 8 MiB",
+         .run = [](State& state, std::size_t count) { ScanAll(state, RealisticLibrary(count)); },
+         .baselineName = "reading them",
+         .baseline = [](State& state,
+                        std::size_t count) { ReadFiles(state, RealisticLibrary(count)); },
+         .sizes = {75, 150, 300},
+         .mostRatio = 1.4,
+         .mostGrowth = 1.5});
+    Register({.name = "same-plugins",
+              .what = "scan of projects of 4 KiB with the same 20 plug-ins",
+              .run = [](State& state, std::size_t count) { ScanAll(state, SmallProjects(count)); },
+              .baselineName = "reading them",
+              .baseline = [](State& state,
+                             std::size_t count) { ReadFiles(state, SmallProjects(count)); },
+              .sizes = {2500, 5000, 10000},
+              .mostRatio = 6,
+              .mostGrowth = 2});
+    RegisterHostile("only-Cs", OnlyCs, 3);
+    RegisterHostile("chained-banks", ChainedBanks, 200);
+    RegisterHostile("chained-banks-without-end", ChainedBanksWithoutEnd, 3);
+    RegisterHostile("banks-that-share-a-name", BanksThatShareAName, 200);
+    RegisterHostile("banks-with-one-long-name", BanksWithOneLongName, 20);
     return true;
 }();
 

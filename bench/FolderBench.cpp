@@ -51,27 +51,32 @@ void DiscoverTree(State& state, const std::string& tree) {
 
 /// A tree in which every second file is of the kind looked for, and one in which all are.
 template <class Walk>
-void RegisterTree(const std::string& what, std::size_t folderCount, const std::string& extension,
-                  Walk walk) {
+void RegisterTrees(const std::string& what, const std::vector<std::size_t>& fileCounts,
+                   const std::string& extension, Walk walk) {
     const auto add = [&](const std::string& name, const std::vector<std::string>& extensions) {
-        const auto tree = [=] { return FileTree("tree-" + name, folderCount, extensions); };
-        const std::string baseline = name + "-find";
-        Register(baseline, [=](State& state) {
-            RunProgram(state, {"find", tree(), "-iname", "*" + extension});
-        });
-        Register(name, [=](State& state) { walk(state, tree()); });
-        Compare({.what = name + " of " + std::to_string(folderCount * 10) + " files, against find",
-                 .numerator = name,
-                 .denominator = baseline,
-                 .atMost = 1.5});
+        const auto tree = [=](std::size_t fileCount) {
+            return FileTree("tree-" + name + "-" + std::to_string(fileCount), fileCount,
+                            extensions);
+        };
+        Register({.name = name,
+                  .what = name + ", files",
+                  .run = [=](State& state, std::size_t count) { walk(state, tree(count)); },
+                  .baselineName = "find",
+                  .baseline =
+                      [=](State& state, std::size_t count) {
+                          RunProgram(state, {"find", tree(count), "-iname", "*" + extension});
+                      },
+                  .sizes = fileCounts,
+                  .mostRatio = 1.5,
+                  .mostGrowth = 1.5});
     };
     add(what + "-half", {extension, ".dat"});
     add(what + "-all", {extension});
 }
 
 const bool registered = [] {
-    RegisterTree("vst-scan", 2000, ".dll", ScanTree);
-    RegisterTree("discovery", 10000, ".cpr", DiscoverTree);
+    RegisterTrees("vst-scan", {2'000, 6'000, 20'000}, ".dll", ScanTree);
+    RegisterTrees("discovery", {10'000, 30'000, 100'000}, ".cpr", DiscoverTree);
     return true;
 }();
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/image.h>
@@ -23,13 +24,11 @@ namespace {
 
 using benchmark::State;
 
-constexpr std::size_t kProjectCount = 2000;
-
 /// Answers the questions of a run, and hands everything else to a window.
 template <class Window>
 class Answering final : public MainWindow {
   public:
-    explicit Answering(Window& window) : window_(window) {}
+    Answering(Window& window, std::string folder) : window_(window), folder_(std::move(folder)) {}
 
     void SetText1(const std::string& text) override { window_.SetText1(text); }
     void SetText2(const std::string& text) override { window_.SetText2(text); }
@@ -48,11 +47,12 @@ class Answering final : public MainWindow {
     MessageAnswer ShowMessage(const Message& /*message*/) override { return MessageAnswer::Yes; }
     std::string PickFolder(const std::string& /*prompt*/,
                            const std::string& /*startFolder*/) override {
-        return ProjectFolder(kProjectCount);
+        return folder_;
     }
 
   private:
     Window& window_;
+    std::string folder_;
 };
 
 /// The folder of a program with its pictures. It is in memory, since the pace of writing to a disk
@@ -81,29 +81,28 @@ class ProgramFolder {
 Application SearchApplication() {
     static const ProgramFolder programFolder;
     const std::string folder = programFolder.Path();
-    ProjectFolder(kProjectCount);
     Application application = BenchApplication();
     return {folder, application.clock, application.desktop, application.registry, {}};
 }
 
 template <class Window>
-void Search(State& state, const Application& application, Window& window) {
-    Answering<Window> answering(window);
+void Search(State& state, const Application& application, Window& window, std::size_t projects) {
+    Answering<Window> answering(window, ProjectFolder(projects));
     for (auto iteration : state) {
         SearchLists lists;
         const SearchSummary summary = GetPlugins4AllProjects(application, answering, lists);
-        if (summary.projects != kProjectCount)
+        if (summary.projects != projects)
             state.SkipWithError("not every project was searched");
     }
 }
 
-void SearchWithoutWindow(State& state) {
+void SearchWithoutWindow(State& state, std::size_t projects) {
     const Application application = SearchApplication();
     QuietWindow window;
-    Search(state, application, window);
+    Search(state, application, window, projects);
 }
 
-void SearchInWindow(State& state) {
+void SearchInWindow(State& state, std::size_t projects) {
     const Application application = SearchApplication();
     auto* const window = new gui::Form1Window(application, "");
     window->Show();
@@ -111,28 +110,33 @@ void SearchInWindow(State& state) {
         wxEventLoopBase::GetActive()->YieldFor(wxEVT_CATEGORY_ALL);
         wxMilliSleep(10);
     }
-    Search(state, application, window->Logic());
+    Search(state, application, window->Logic(), projects);
     window->Destroy();
     wxTheApp->ProcessPendingEvents();
     wxTheApp->ProcessIdle();
 }
 
-const bool registered = [] {
-    Register("search-without-window", SearchWithoutWindow);
-    Register("search-in-window", SearchInWindow);
-    Compare({.what = "search of 2,000 projects of 80 KiB in the window, against one without",
-             .numerator = "search-in-window",
-             .denominator = "search-without-window",
-             .atMost = 1.1});
+void Start(State& state, const std::string& kind) {
+    RunProgram(state, {MARLO_START_PROBE, kind, SearchApplication().folder});
+}
 
-    for (const std::string kind : {"empty", "marlo"})
-        Register("start-" + kind, [kind](State& state) {
-            RunProgram(state, {MARLO_START_PROBE, kind, SearchApplication().folder});
-        });
-    Compare({.what = "start to the painted window, against an empty window of the toolkit",
-             .numerator = "start-marlo",
-             .denominator = "start-empty",
-             .atMost = 1.3});
+const bool registered = [] {
+    Register({.name = "search-in-window",
+              .what = "search of projects of 80 KiB in the window",
+              .run = SearchInWindow,
+              .baselineName = "without a window",
+              .baseline = SearchWithoutWindow,
+              .sizes = {500, 1000, 2000},
+              .mostRatio = 1.1,
+              .mostGrowth = 1.5});
+    Register({.name = "start",
+              .what = "start to the painted window",
+              .run = [](State& state, std::size_t /*size*/) { Start(state, "marlo"); },
+              .baselineName = "an empty window of the toolkit",
+              .baseline = [](State& state, std::size_t /*size*/) { Start(state, "empty"); },
+              .sizes = {1},
+              .mostRatio = 1.3,
+              .mostGrowth = 1});
     return true;
 }();
 

@@ -11,9 +11,7 @@ class BenchApp final : public marlo::gui::GuiApp {
     int OnRun() override {
         wxGUIEventLoop loop;
         const wxEventLoopActivator active(&loop);
-        marlo::bench::Report report;
-        benchmark::RunSpecifiedBenchmarks(&report);
-        return report.PrintComparisons() ? 0 : 1;
+        return marlo::bench::RunAll() ? 0 : 1;
     }
 };
 

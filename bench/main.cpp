@@ -10,9 +10,7 @@ int main(int argc, char** argv) {
         benchmark::Initialize(&argc, argv);
         if (benchmark::ReportUnrecognizedArguments(argc, argv))
             return 2;
-        marlo::bench::Report report;
-        benchmark::RunSpecifiedBenchmarks(&report);
-        return report.PrintComparisons() ? 0 : 1;
+        return marlo::bench::RunAll() ? 0 : 1;
     } catch (const std::exception& failure) {
         std::cerr << "marlo-bench: " << failure.what() << '\n';
         return 1;

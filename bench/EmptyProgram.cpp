@@ -1,0 +1,2 @@
+// What the start of any program costs.
+int main() {}
