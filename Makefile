@@ -2,9 +2,10 @@
 # packages that it needs and that are missing (see packaging/debian-packages.txt).
 
 PACKAGES := packaging/install-packages
+LOGIC    := platform core scan inventory reports dialogs ui app/cli
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-.PHONY: help run build test sanitized test-asan-gui test-windows fuzz fuzzers bench bench-windows package package-windows \
+.PHONY: help run build test sanitized test-asan-gui test-windows fuzz fuzzers coverage bench bench-counts bench-windows package package-windows \
 	screenshots pictures format lint clean
 
 help: ## List the targets
@@ -55,6 +56,16 @@ fuzzers:
 fuzz: fuzzers ## Run each fuzzer for a minute, or for SECONDS
 	fuzz/run build/fuzz $(or $(SECONDS),60)
 
+coverage: ## Tell which lines of the logic no test runs; fails below 97 %
+	@$(PACKAGES) build coverage
+	@cmake --preset coverage --log-level=WARNING
+	@cmake --build --preset coverage
+	@find build/coverage -name '*.gcda' -delete
+	ctest --preset coverage -j 2
+	@gcovr --root . --object-directory build/coverage --exclude-unreachable-branches \
+		$(foreach room,$(LOGIC),--filter '$(room)/') --sort-percentage --fail-under-line 97 \
+		--html-details build/coverage/lines.html --txt -
+
 bench: ## Measure speed against baselines from the same run
 	@$(PACKAGES) build bench
 	@cmake --preset release --log-level=WARNING
@@ -62,6 +73,12 @@ bench: ## Measure speed against baselines from the same run
 	build/release/bench/marlo-bench --benchmark_enable_random_interleaving=true
 	tests/gui/with-display build/release/bench/marlo-bench-window \
 		--benchmark_enable_random_interleaving=true
+
+bench-counts: ## Count the instructions of the hot paths, and compare with those in bench/counts.txt
+	@$(PACKAGES) build bench
+	@cmake --preset release --log-level=WARNING
+	@cmake --build --preset release --target marlo-counts
+	@bench/count build/release
 
 bench-windows: ## Measure the extraction of the Windows program under Wine
 	@$(PACKAGES) build windows windows64
