@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <filesystem>
 #include <new>
 #include <stdexcept>
@@ -8,6 +9,7 @@
 #include "core/ErrorLog.h"
 #include "core/RunTimeError.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -65,6 +67,26 @@ TEST_F(ErrorLogTest, TheListenerIsToldEvenWhenNothingCanBeWritten) {
     EXPECT_EQ(told.procedure, "p");
     EXPECT_EQ(told.number, 1);
     EXPECT_EQ(told.description, "d");
+}
+
+TEST_F(ErrorLogTest, WhereverTheDiskIsFullTheEarlierEntriesStayAndNothingElseHappens) {
+    if (!test::FileSizeLimit::IsPossible())
+        GTEST_SKIP() << test::kNoFileSizeLimit;
+    const std::string earlier = LogLine("earlier", 5, "a");
+    const std::string later = LogLine("later", 6, "b");
+    int told = 0;
+    application.onErrorLogged = [&](const ErrorEntry& /*entry*/) { ++told; };
+    for (std::size_t limit = 0; limit <= earlier.size() + later.size(); ++limit) {
+        folder.Write("resultfiles/errorlog.txt", earlier);
+        told = 0;
+        {
+            const test::FileSizeLimit full(limit);
+            WriteErrorLog(application, "later", 6, "b");
+        }
+        // What there is room for is written.
+        EXPECT_EQ(Log(), (earlier + later).substr(0, std::max(limit, earlier.size()))) << limit;
+        EXPECT_EQ(told, 1) << limit;
+    }
 }
 
 TEST_F(ErrorLogTest, AGuardedBodyThatEndsLogsNothing) {

@@ -192,6 +192,14 @@ TEST_F(DirectXPluginsTest, NamesAreWrittenByteForByte) {
     EXPECT_EQ(Names(), "R\xE9verb, \"wide\";");
 }
 
+TEST_F(DirectXPluginsTest, ControlCharactersInANameAreWrittenByteForByteToo) {
+    using namespace std::string_literals;
+    AddClass("{1}", "a\r\n\0b\x1b[2J"s);
+    AddInstance("Echo");
+    EXPECT_EQ(Names(), "a\r\n\0b\x1b[2J;Echo;"s);
+    EXPECT_EQ(Log(), "");
+}
+
 TEST(IsIncompatibleTest, TheNameIsLookedForAnywhereInTheList) {
     EXPECT_TRUE(IsIncompatible("ACM Wrapper;"));
     EXPECT_TRUE(IsIncompatible("SMPTEGenerator;"));

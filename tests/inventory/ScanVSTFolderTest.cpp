@@ -119,6 +119,41 @@ TEST_F(ScanVSTFolderTest, AFolderThatMayNotBeOpenedIsPassedOver) {
     std::filesystem::permissions(Vst("a"), perms{0755});
 }
 
+TEST_F(ScanVSTFolderTest, AnUnreadableFolderAtAnyDepthIsPassedOverWithWhatIsInIt) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
+    using std::filesystem::perms;
+    std::filesystem::permissions(folder.Path(), perms{0777});  // for the list
+    const Texts folders = {"", "1/", "1/2/", "1/2/3/"};
+    for (const std::string& path : folders)
+        folder.Write("vst/" + path + "Delay.dll", "");
+    for (std::size_t depth = 0; depth < folders.size(); ++depth) {
+        std::string expected;
+        for (std::size_t i = 0; i < depth; ++i)
+            expected += Line("Delay", folders[i] + "Delay.dll");
+        std::filesystem::permissions(Vst(folders[depth]), perms::none);
+        {
+            const test::OrdinaryUser user;
+            EXPECT_EQ(Lines(), expected) << depth;
+        }
+        std::filesystem::permissions(Vst(folders[depth]), perms{0755});
+    }
+    EXPECT_EQ(Log(), "");
+    EXPECT_TRUE(window.messages.empty());
+}
+
+TEST_F(ScanVSTFolderTest, AFolderThatVanishesDuringTheWalkIsPassedOver) {
+    for (const char* name : {"a/Delay.dll", "b/Echo.dll", "c/Reverb.dll"})
+        folder.Write(std::string("vst/") + name, "");
+    window.onEvents = [&] {
+        if (window.text2 == Vst("a"))
+            std::filesystem::remove_all(folder.Path("vst/b"));
+    };
+    EXPECT_EQ(Lines(), Line("Delay", "a/Delay.dll") + Line("Reverb", "c/Reverb.dll"));
+    EXPECT_EQ(Log(), "");
+    EXPECT_FALSE(cancelled);
+}
+
 TEST_F(ScanVSTFolderTest, EachFolderIsShownBeforeItIsOpened) {
     folder.Write("vst/sub/Delay.dll", "");
     Scan(Vst());

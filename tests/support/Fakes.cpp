@@ -24,15 +24,13 @@ MessageAnswer FirstButton(MessageButtons buttons) {
 
 }  // namespace
 
-std::tm FakeClock::Now() const {
-    std::tm moment{};
-    moment.tm_year = 2026 - 1900;
-    moment.tm_mon = 11 - 1;
-    moment.tm_mday = 15;
-    moment.tm_hour = 3;
-    moment.tm_min = 10;
-    moment.tm_sec = 22;
-    return moment;
+FakeClock::FakeClock() {
+    now.tm_year = 2026 - 1900;
+    now.tm_mon = 11 - 1;
+    now.tm_mday = 15;
+    now.tm_hour = 3;
+    now.tm_min = 10;
+    now.tm_sec = 22;
 }
 
 std::string FakeClock::TimeText(const std::tm& moment) const {

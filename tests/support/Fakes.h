@@ -16,12 +16,17 @@
 
 namespace marlo::test {
 
-/// A clock that stands still at 03:10:22 on 15 November 2026 and writes dates the British way.
+/// A clock that stands still and writes dates the British way.
 class FakeClock final : public platform::Clock {
   public:
-    std::tm Now() const override;
+    FakeClock();
+
+    std::tm Now() const override { return now; }
     std::string TimeText(const std::tm& moment) const override;
     std::string ShortDateText(const std::tm& moment) const override;
+
+    /// 03:10:22 on 15 November 2026, until a test sets it.
+    std::tm now{};
 };
 
 /// A desktop that describes files by their extensions.
