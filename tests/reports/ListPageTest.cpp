@@ -96,6 +96,21 @@ TEST_F(ListPageTest, NothingInAFieldIsMarkup) {
         EXPECT_NE(page.find(place + escaped), std::string::npos) << place;
 }
 
+TEST_F(ListPageTest, WhatTurnsTheWritingDirectionStaysInItsCell) {
+    // NOLINTNEXTLINE(misc-misleading-bidirectional): that is what it is about.
+    Add("\xE2\x80\xAEtxt.rpc", "VST");
+    EXPECT_TRUE(HtmlHas("<td>\u202Etxt.rpc</td><td>VST</td>"));
+    EXPECT_TRUE(HtmlHas("td { padding: .3rem .75rem; unicode-bidi: isolate;"));
+}
+
+TEST_F(ListPageTest, NoOtherSpellingOfAMarkupCharacterBecomesOne) {
+    Add("\xC0\xBC"
+        "b>",
+        "\xEF\xBC\x9C"
+        "b>");  // too long in UTF-8, and of full width
+    EXPECT_TRUE(HtmlHas("<td>\u00C0\u00BCb&#62;</td><td>\uFF1Cb&#62;</td>"));
+}
+
 TEST_F(ListPageTest, ControlCharactersAreShownAsTheirPictures) {
     Add(std::string("a\0\x1b\n\x7f", 5) + "\xC2\x9B", "VST");
     EXPECT_TRUE(HtmlHas("<td>a\u2400\u241B\u240A\u2421\uFFFD</td>"));
