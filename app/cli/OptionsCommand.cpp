@@ -27,10 +27,13 @@ void WriteFlag(const Application& application, std::int16_t record,
 }
 
 void PrintOptions(const Application& application) {
+    // All are read first, as one that cannot be read is said.
     const std::string program = getSetting(application, setting::kCsvProgram);
+    const char* const ignoreDirectX = OnOrOff(application, setting::kIgnoreDirectX);
+    const char* const ignoreOff = OnOrOff(application, setting::kIgnoreOff);
     std::cout << "csv-program:    " << (program.empty() ? "(none)" : Printable(program)) << '\n'
-              << "ignore-directx: " << OnOrOff(application, setting::kIgnoreDirectX) << '\n'
-              << "ignore-off:     " << OnOrOff(application, setting::kIgnoreOff) << '\n';
+              << "ignore-directx: " << ignoreDirectX << '\n'
+              << "ignore-off:     " << ignoreOff << '\n';
 }
 
 }  // namespace
