@@ -127,10 +127,13 @@ TEST_F(ScanVSTFolderTest, AnUnreadableFolderAtAnyDepthIsPassedOverWithWhatIsInIt
     const Texts folders = {"", "1/", "1/2/", "1/2/3/"};
     for (const std::string& path : folders)
         folder.Write("vst/" + path + "Delay.dll", "");
+    folder.Write("vst/z/Echo.dll", "");
     for (std::size_t depth = 0; depth < folders.size(); ++depth) {
         std::string expected;
         for (std::size_t i = 0; i < depth; ++i)
             expected += Line("Delay", folders[i] + "Delay.dll");
+        if (depth > 0)
+            expected += Line("Echo", "z/Echo.dll");
         std::filesystem::permissions(Vst(folders[depth]), perms::none);
         {
             const test::OrdinaryUser user;

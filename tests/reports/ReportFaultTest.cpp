@@ -79,6 +79,22 @@ TEST_F(ReportFaultTest, AFileInTheResultFoldersPlaceIsToldAndStays) {
     EXPECT_EQ(folder.Read("resultfiles"), "a file");
 }
 
+TEST_F(ReportFaultTest, ALineEndInANameMakesTwoRowsOfItsRecordAndIsLogged) {
+    WriteUsed({{"a\r\nb", "VST", "On"}});
+    ShowInstalledPlugins(pane, report_kind::kUninstalled);
+    EXPECT_EQ(Names(), (Texts{"", "b"}));
+    EXPECT_EQ(Log(), LogLine("SplitRecord: \"a 3", 5, "Invalid procedure call"));
+    EXPECT_TRUE(window.messages.empty());
+}
+
+TEST_F(ReportFaultTest, ANulInANameIsShown) {
+    const std::string name("a\0b", 3);
+    WriteUsed({{name, "VST", "On"}});
+    ShowInstalledPlugins(pane, report_kind::kUninstalled);
+    EXPECT_EQ(Names(), Texts{name});
+    EXPECT_EQ(Log(), "");
+}
+
 TEST_F(ReportFaultTest, ANameOf10MegabytesIsWholeInItsRow) {
     const std::string name(10'000'000, 'n');
     WriteUsed({{name, "VST", "On"}, {"Reverb", "VST", "On"}});
