@@ -226,7 +226,8 @@ TEST_F(SearchFaultTest, AFileInTheResultFoldersPlaceStaysAndTheFailureIsShown) {
 }
 
 TEST_F(SearchFaultTest, ANameOf10MegabytesIsWholeInEveryResultFile) {
-    const std::string name(10'000'000, 'n');
+    std::string name;
+    name.resize(10'000'000, 'n');
     AddProject("a.cpr", name);
     EXPECT_EQ(Search().outcome, SearchOutcome::Written);
     const std::string start = "\"" + folder.Path("songs/a.cpr") + "\",\"";
