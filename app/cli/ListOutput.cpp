@@ -4,12 +4,10 @@
 #include <string_view>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
 #include "app/cli/CommandSupport.h"
+#include "app/cli/JsonList.h"
 #include "app/cli/Table.h"
 #include "app/cli/TerminalText.h"
-#include "core/Text.h"
 #include "platform/Terminal.h"
 #include "reports/ListPage.h"
 
@@ -62,18 +60,17 @@ void PrintTable(const ResultList& list) {
 
 void PrintJson(const ResultList& list) {
     const std::vector<std::string> headers = HeadersOf(list);
-    auto rows = nlohmann::ordered_json::array();
+    JsonList rows(std::cout);
     const std::size_t count = HoldsPlaceholder(list) ? 0 : list.RowCount();
     for (std::size_t position = 1; position <= count; ++position) {
         const ResultRow row = list.RowAt(position);
         const std::vector<std::string> cells = CellsOf(list, row);
-        nlohmann::ordered_json object;
+        rows.BeginObject();
         for (std::size_t i = 0; i < cells.size(); ++i)
-            object[JsonName(headers[i], static_cast<int>(i) + 1)] = DecodeToUtf8(cells[i]);
-        object["greyed"] = IsGreyed(list, row);
-        rows.push_back(std::move(object));
+            rows.AddText(JsonName(headers[i], static_cast<int>(i) + 1), cells[i]);
+        rows.AddFlag("greyed", IsGreyed(list, row));
     }
-    std::cout << JsonText(rows);
+    rows.End();
 }
 
 /// As it is for a program to read, made harmless on a terminal.

@@ -4,10 +4,9 @@
 #include <system_error>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
 #include "app/cli/CommandSupport.h"
 #include "app/cli/Commands.h"
+#include "app/cli/JsonList.h"
 #include "app/cli/Table.h"
 #include "app/cli/TerminalText.h"
 #include "app/cli/TerminalWindow.h"
@@ -71,13 +70,15 @@ void PrintCsv(const std::vector<Line>& lines) {
 }
 
 void PrintJson(const std::vector<Line>& lines) {
-    auto uses = nlohmann::ordered_json::array();
-    for (const Line& line : lines)
-        uses.push_back({{"project", DecodeToUtf8(line.project)},
-                        {"plugin", DecodeToUtf8(NameIn(line))},
-                        {"type", TypeIn(line)},
-                        {"state", line.state}});
-    std::cout << JsonText(uses);
+    JsonList uses(std::cout);
+    for (const Line& line : lines) {
+        uses.BeginObject();
+        uses.AddText("project", line.project);
+        uses.AddText("plugin", NameIn(line));
+        uses.AddText("type", TypeIn(line));
+        uses.AddText("state", line.state);
+    }
+    uses.End();
 }
 
 void PrintTable(const std::vector<Line>& lines) {

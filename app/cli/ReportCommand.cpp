@@ -11,7 +11,8 @@ int RunReport(const Environment& environment, const ReportOptions& options) {
     const Application application = ApplicationOf(environment, window);
     ResultPane pane{application, window};
     ShowInstalledPlugins(pane, options.kind);
-    PrintList(pane, pane.lstSongs.Header(1), options.format);
+    const bool hasColumns = pane.lstSongs.ColumnCount() > 0;
+    PrintList(pane, hasColumns ? pane.lstSongs.Header(1) : "", options.format);
     return FinishOutput(window.SawFailure() ? kFailed : kDone);
 }
 

@@ -105,16 +105,15 @@ std::string FitToWidth(std::string_view printable, int width) {
                   : EncodeUtf8(StartThatFits(text, available)) + kEllipsis;
 }
 
-std::string JsonText(const nlohmann::ordered_json& value) {
-    constexpr int indent = 2;
+std::string JsonText(std::string_view field) {
     std::u32string inert;
-    for (const char32_t character : Decode(value.dump(indent))) {
-        if (character == '\n' || IsInert(character))
+    for (const char32_t character : Decode(nlohmann::json(DecodeToUtf8(field)).dump())) {
+        if (IsInert(character))
             inert += character;
         else
             inert += EscapedForJson(character);
     }
-    return EncodeUtf8(inert) + "\n";
+    return EncodeUtf8(inert);
 }
 
 }  // namespace marlo::cli

@@ -3,8 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include <nlohmann/json_fwd.hpp>
-
 namespace marlo::cli {
 
 /// A field for a person to read, as UTF-8 (see core/Text.h). Whatever could move the cursor, start
@@ -19,8 +17,8 @@ int DisplayWidth(std::string_view printable);
 /// a path the beginning.
 std::string FitToWidth(std::string_view printable, int width);
 
-/// `value` as indented JSON text, a line end after it. The characters that `Printable` replaces
-/// are escaped, which means the same to a reader of JSON.
-std::string JsonText(const nlohmann::ordered_json& value);
+/// A field as a JSON string, with its quotes (see core/Text.h). The characters that `Printable`
+/// replaces are escaped, which means the same to a reader of JSON.
+std::string JsonText(std::string_view field);
 
 }  // namespace marlo::cli

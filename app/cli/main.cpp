@@ -5,6 +5,7 @@
 
 #include "app/cli/CommandLine.h"
 #include "app/cli/TerminalText.h"
+#include "core/RunTimeError.h"
 #include "platform/FileSystem.h"
 #include "platform/Machine.h"
 #include "platform/Terminal.h"
@@ -25,14 +26,22 @@ int Run(const Request& request) {
         {folder, platform::SystemClock(), platform::SystemDesktop(), platform::SystemRegistry()});
 }
 
+int RunCommandLine(int argc, char** argv) {
+    platform::PrepareStreams();
+    const auto answer = ReadCommandLine({argv + 1, argv + argc});
+    const auto* const exitCode = std::get_if<int>(&answer);
+    return exitCode != nullptr ? *exitCode : Run(*std::get_if<Request>(&answer));
+}
+
 }  // namespace
 
 }  // namespace marlo::cli
 
 int main(int argc, char** argv) {
-    using namespace marlo::cli;
-    marlo::platform::PrepareStreams();
-    const auto answer = ReadCommandLine({argv + 1, argv + argc});
-    const auto* const exitCode = std::get_if<int>(&answer);
-    return exitCode != nullptr ? *exitCode : Run(*std::get_if<Request>(&answer));
+    try {
+        return marlo::cli::RunCommandLine(argc, argv);
+    } catch (...) {
+        std::cerr << "marlo-cli: " << marlo::CurrentFailure().Description() << '\n';
+        return marlo::cli::kFailed;
+    }
 }

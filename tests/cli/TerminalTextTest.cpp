@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "app/cli/JsonList.h"
 #include "app/cli/Table.h"
 #include "app/cli/TerminalText.h"
 
@@ -55,13 +56,32 @@ TEST(FitToWidthTest, OfAPathTheBeginningIsCut) {
 }
 
 TEST(JsonTextTest, WhatATerminalWouldActOnIsEscapedAndMeansTheSame) {
-    const nlohmann::ordered_json value = {
-        {"name", "\x1b[2J\x7f \xC2\x9B \xE2\x80\xAE \xF3\xA0\x80\x81 \xC3\xA9\n\"\\"}};
-    const std::string text = JsonText(value);
+    const std::string field = "\x1b[2J\x7f \xC2\x9B \xE2\x80\xAE \xF3\xA0\x80\x81 \xC3\xA9\n\"\\";
+    const std::string text = JsonText(field);
     EXPECT_EQ(text,
-              "{\n  \"name\": \"\\u001b[2J\\u007f \\u009b \\u202e \\udb40\\udc01 "
-              "\xC3\xA9\\n\\\"\\\\\"\n}\n");
-    EXPECT_EQ(nlohmann::ordered_json::parse(text), value);
+              "\"\\u001b[2J\\u007f \\u009b \\u202e \\udb40\\udc01 "
+              "\xC3\xA9\\n\\\"\\\\\"");
+    EXPECT_EQ(nlohmann::json::parse(text), field);
+}
+
+TEST(JsonListTest, ObjectsAndTheirFieldsAreIndented) {
+    std::ostringstream out;
+    JsonList list(out);
+    for (const char* const name : {"a", "R\xE9verb"}) {
+        list.BeginObject();
+        list.AddText("name", name);
+        list.AddFlag("on", name == std::string("a"));
+    }
+    list.End();
+    const auto expected = nlohmann::ordered_json::array(
+        {{{"name", "a"}, {"on", true}}, {{"name", "R\xC3\xA9verb"}, {"on", false}}});
+    EXPECT_EQ(out.str(), expected.dump(2) + "\n");
+}
+
+TEST(JsonListTest, WithoutObjectsTheArrayIsEmpty) {
+    std::ostringstream out;
+    JsonList(out).End();
+    EXPECT_EQ(out.str(), "[]\n");
 }
 
 TEST(TableTest, ColumnsAreAlignedByDisplayWidth) {

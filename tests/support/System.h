@@ -60,6 +60,10 @@ class FileSizeLimit {
 };
 constexpr const char* kNoFileSizeLimit = "the size of files cannot be limited here";
 
+/// Whether a Unix shell can limit the memory of the programs that it starts.
+bool CanLimitMemory();
+constexpr const char* kNoMemoryLimit = "memory cannot be limited here";
+
 /// Whether programs can be started from a Unix shell and in terminals, and interrupted by a signal.
 bool HasUnixShell();
 constexpr const char* kNoUnixShell = "there are no Unix shell, terminals and signals here";

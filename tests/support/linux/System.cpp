@@ -15,6 +15,15 @@ namespace {
 
 constexpr uid_t kNobody = 65534;
 
+/// AddressSanitizer takes terabytes of addresses for its own use.
+#ifdef __has_feature  // clang's way of telling
+constexpr bool kHasShadowMemory = __has_feature(address_sanitizer);
+#elif defined(__SANITIZE_ADDRESS__)
+constexpr bool kHasShadowMemory = true;
+#else
+constexpr bool kHasShadowMemory = false;
+#endif
+
 }  // namespace
 
 void SetVariable(const std::string& name, const std::string& value) {
@@ -70,6 +79,10 @@ FileSizeLimit::~FileSizeLimit() {
 
 bool FileSizeLimit::IsPossible() {
     return true;
+}
+
+bool CanLimitMemory() {
+    return !kHasShadowMemory;
 }
 
 bool HasUnixShell() {

@@ -114,6 +114,10 @@ bool FileSizeLimit::IsPossible() {
     return false;
 }
 
+bool CanLimitMemory() {
+    return false;
+}
+
 bool HasUnixShell() {
     return false;
 }

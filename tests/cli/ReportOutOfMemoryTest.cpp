@@ -1,0 +1,51 @@
+// The report command with each of its allocations failing in turn.
+
+#include <cstddef>
+#include <new>
+
+#include <gtest/gtest.h>
+
+#include "app/cli/Commands.h"
+#include "reports/PluginReports.h"
+#include "reports/ReportView.h"
+#include "tests/support/ApplicationTest.h"
+#include "tests/support/FailingAllocation.h"
+
+namespace marlo::cli {
+namespace {
+
+std::size_t allocationsLeft = 0;
+
+bool FailsOnce(std::size_t /*size*/) {
+    if (allocationsLeft == 0)
+        return false;
+    --allocationsLeft;
+    return allocationsLeft == 0;
+}
+
+class ReportCommandOutOfMemoryTest : public test::ApplicationTest {};
+
+TEST_F(ReportCommandOutOfMemoryTest, NothingButMemoryIsEverMissing) {
+    folder.Write("resultfiles/installedplugins.csv", "\"VST\",\"Echo\",\"/vst/Echo.dll\"\r\n");
+    const Environment environment{folder.Path(), clock, desktop, registry};
+    std::size_t failures = 0;
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    for (std::size_t number = 1; allocationsLeft == 0; ++number) {
+        allocationsLeft = number;
+        const test::FailingAllocation failing(FailsOnce);
+        try {
+            RunReport(environment, {.kind = report_kind::kAll, .format = ListFormat::Csv});
+        } catch (const std::bad_alloc&) {
+            ++failures;  // the program would say so
+        } catch (...) {
+            ADD_FAILURE() << "at allocation " << number;
+        }
+    }
+    testing::internal::GetCapturedStdout();
+    testing::internal::GetCapturedStderr();
+    EXPECT_GT(failures, 0U);
+}
+
+}  // namespace
+}  // namespace marlo::cli
