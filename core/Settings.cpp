@@ -1,5 +1,6 @@
 #include "core/Settings.h"
 
+#include <algorithm>
 #include <array>
 #include <system_error>
 
@@ -50,11 +51,25 @@ std::string ReadRecord(const Application& application, std::int16_t record) {
     return value.starts_with('\0') ? std::string() : std::string(value);
 }
 
+/// Has the file reach to the end of a record that stays as it is, with spaces behind a record that
+/// is cut or not there. What has no room for the record, a full disk for one, fails here, and
+/// whatever part of this was written changes no value.
+void MakeRoom(platform::File& file, std::uint64_t offset, std::error_code& error) {
+    std::string record(kRecordLength, ' ');
+    const std::size_t there = file.ReadAt(
+        offset, {reinterpret_cast<unsigned char*>(record.data()), record.size()}, error);
+    const std::size_t start = std::min(there, kRecordLength - 1);
+    if (!error)
+        file.WriteAt(offset + start, std::string_view(record).substr(start), error);
+}
+
 void WriteRecord(const Application& application, std::int16_t record, std::string_view value) {
     const std::uint64_t offset = OffsetOf(record);
     std::error_code error;
     auto file = platform::File::OpenForUpdating(SettingsPath(application), error);
     ThrowOnPath(error);
+    MakeRoom(file, offset, error);
+    ThrowOn(error);
     std::string buffer(value.substr(0, kRecordLength));
     buffer.resize(kRecordLength, ' ');
     file.WriteAt(offset, buffer, error);

@@ -41,7 +41,9 @@ std::string getSetting(const Application& application, std::int16_t record);
 ///
 /// @param record the record's number, 1-based.
 /// @param value cut to `kMaxSettingLength` bytes when it is longer.
-/// @return false after a failure, which is logged under "WriteSetting".
+/// @return false after a failure, which is logged under "WriteSetting". The record then is as it
+/// was,
+///         a full disk included.
 bool WriteSetting(const Application& application, std::int16_t record, std::string_view value);
 
 /// Whether a setting gives `value` back as it is: neither cut nor trimmed, nor taken for a record

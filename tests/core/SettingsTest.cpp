@@ -1,5 +1,6 @@
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -101,6 +102,56 @@ TEST_F(SettingsTest, AFileThatMayNotBeWrittenCanStillBeRead) {
     }
     EXPECT_EQ(getSetting(application, 1), "kept");
     EXPECT_EQ(Log(), LogLine("WriteSetting", 70, "Permission denied"));
+}
+
+/// Writes a setting where the file may not grow beyond some size.
+class FullDiskSettingsTest : public SettingsTest {
+  protected:
+    /// @param before the file as it is each time.
+    void WriteAtEachLimit(const std::string& before, std::int16_t record,
+                          const std::string& value) {
+        constexpr std::int16_t records = 6;
+        folder.Write("settings.ini", before);
+        const std::vector<std::string> old = Settings(records);
+        // A smaller size than the first is one at which nothing is written either.
+        const std::size_t first = static_cast<std::size_t>(record - 1) * kMaxSettingLength;
+        bool isWritten = false;
+        for (std::size_t limit = first; limit <= first + kMaxSettingLength; ++limit) {
+            folder.Write("settings.ini", before);
+            {
+                const test::FileSizeLimit full(limit);
+                isWritten = WriteSetting(application, record, value);
+            }
+            std::vector<std::string> expected = old;
+            if (isWritten)
+                expected.at(static_cast<std::size_t>(record) - 1) = value;
+            ASSERT_EQ(Settings(records), expected) << "record " << record << " within " << limit;
+        }
+        EXPECT_TRUE(isWritten) << "at last";
+    }
+
+    std::vector<std::string> Settings(std::int16_t count) {
+        std::vector<std::string> values;
+        for (std::int16_t record = 1; record <= count; ++record)
+            values.push_back(getSetting(application, record));
+        return values;
+    }
+};
+
+TEST_F(FullDiskSettingsTest, WhereverTheDiskIsFullASettingIsOldOrNew) {
+    if (!test::FileSizeLimit::IsPossible())
+        GTEST_SKIP() << test::kNoFileSizeLimit;
+    for (const std::int16_t record : {1, 2, 3, 4})
+        WriteSetting(application, record, "/tmp/" + std::to_string(record) + "/vst");
+    const std::string whole = folder.Read("settings.ini");
+    const std::string cut = whole.substr(0, whole.size() - 250);
+    const std::string shortValue = "/tmp/x/vst";
+    const std::string longValue(kMaxSettingLength, 'v');
+    WriteAtEachLimit(whole, 3, longValue);
+    WriteAtEachLimit(whole, 5, shortValue);
+    WriteAtEachLimit(whole, 6, longValue);
+    WriteAtEachLimit(cut, 4, shortValue);
+    WriteAtEachLimit("", 5, shortValue);
 }
 
 TEST_F(SettingsTest, AMissingApplicationFolderGivesEmptyTextAndFalse) {
