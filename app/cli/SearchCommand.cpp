@@ -43,11 +43,16 @@ int RunSearch(const Environment& environment, const SearchOptions& options) {
         return Complain("search", kWrongUsage,
                         options.folder ? "FOLDER is empty"
                                        : "no FOLDER is given, and none was searched before");
-    // A mistyped folder would count as one without projects, and empty the result files.
+    // A mistyped folder, or one that may not be read, would count as one without projects, and
+    // empty the result files.
     std::error_code error;
     const std::string folder = platform::FullPath(asked, error);
     if (error || !platform::IsFolder(folder, error))
         return Complain("search", kFailed, asked + ": no such folder");
+    (void)platform::Folder::Open(folder, error);
+    if (error)
+        return Complain("search", kFailed,
+                        asked + ": the folder cannot be read (" + error.message() + ")");
 
     window.SetAnswers(
         {.folder = folder,

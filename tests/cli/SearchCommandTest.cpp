@@ -38,6 +38,30 @@ TEST_F(SearchCommandTest, ASearchWritesTheResultFilesAndPrintsASummary) {
     EXPECT_EQ(Result("tln.csv"), "\"Delay\",\"VST\",\"On\"\r\n");
 }
 
+TEST_F(SearchCommandTest, AFolderThatMayNotBeReadIsSaidAndTheOldResultsStay) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
+    AddProject("a.cpr", {{.name = "Delay"}});
+    ASSERT_EQ(Marlo({"search", Songs()}).exitCode, 0);
+    const std::string before = Result("results.csv");
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms{0755});
+    for (const char* const name : {"app", "app/resultfiles"})
+        std::filesystem::permissions(folder.Path(name), std::filesystem::perms{0777});
+    std::filesystem::permissions(folder.Path("app/settings.ini"), std::filesystem::perms{0666});
+    std::filesystem::permissions(Songs(), std::filesystem::perms{0});
+    {
+        const test::OrdinaryUser user;
+        const auto result = Marlo({"search", Songs()});
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(result.error, "marlo-cli: search: " + Songs() +
+                                    ": the folder cannot be read (Permission denied)\n");
+    }
+    std::filesystem::permissions(Songs(), std::filesystem::perms{0755});
+    EXPECT_NE(before, "");
+    EXPECT_EQ(Result("results.csv"), before);
+}
+
 TEST_F(SearchCommandTest, SubfoldersAreSearchedUnlessTheyAreLeftOut) {
     AddProject("sub/a.cpr", {{.name = "Delay"}});
     EXPECT_EQ(Marlo({"search", Songs()}).out, "1 project, 1 plug-in in them, used 1 time.\n");
