@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <system_error>
 
 #include "core/ErrorLog.h"
@@ -51,29 +52,36 @@ std::string ReadRecord(const Application& application, std::int16_t record) {
     return value.starts_with('\0') ? std::string() : std::string(value);
 }
 
-/// Has the file reach to the end of a record that stays as it is, with spaces behind a record that
-/// is cut or not there. What has no room for the record, a full disk for one, fails here, and
-/// whatever part of this was written changes no value.
-void MakeRoom(platform::File& file, std::uint64_t offset, std::error_code& error) {
-    std::string record(kRecordLength, ' ');
-    const std::size_t there = file.ReadAt(
-        offset, {reinterpret_cast<unsigned char*>(record.data()), record.size()}, error);
-    const std::size_t start = std::min(there, kRecordLength - 1);
+/// Has the file reach `size` bytes from `offset` on, with what is there as it is and spaces behind.
+/// What has no room for that, a full disk for one, fails here, and whatever part of it was written
+/// changes no value.
+void MakeRoom(platform::File& file, std::uint64_t offset, std::size_t size,
+              std::error_code& error) {
+    std::string bytes(size, ' ');
+    const std::size_t there =
+        file.ReadAt(offset, {reinterpret_cast<unsigned char*>(bytes.data()), size}, error);
+    const std::size_t start = std::min(there, size - 1);
     if (!error)
-        file.WriteAt(offset + start, std::string_view(record).substr(start), error);
+        file.WriteAt(offset + start, std::string_view(bytes).substr(start), error);
 }
 
-void WriteRecord(const Application& application, std::int16_t record, std::string_view value) {
-    const std::uint64_t offset = OffsetOf(record);
+/// Writes whole records with one call of the system. A kill may divide it where a page of memory
+/// ends, and nowhere else.
+void WriteRecords(const Application& application, std::int16_t first, std::string_view records) {
+    const std::uint64_t offset = OffsetOf(first);
     std::error_code error;
     auto file = platform::File::OpenForUpdating(SettingsPath(application), error);
     ThrowOnPath(error);
-    MakeRoom(file, offset, error);
+    MakeRoom(file, offset, records.size(), error);
     ThrowOn(error);
-    std::string buffer(value.substr(0, kRecordLength));
-    buffer.resize(kRecordLength, ' ');
-    file.WriteAt(offset, buffer, error);
+    file.WriteAt(offset, records, error);
     ThrowOn(error);
+}
+
+std::string RecordOf(std::string_view value) {
+    std::string record(value.substr(0, kRecordLength));
+    record.resize(kRecordLength, ' ');
+    return record;
 }
 
 }  // namespace
@@ -86,7 +94,21 @@ std::string getSetting(const Application& application, std::int16_t record) {
 
 bool WriteSetting(const Application& application, std::int16_t record, std::string_view value) {
     return RunGuarded(application, "WriteSetting",
-                      [&] { WriteRecord(application, record, value); });
+                      [&] { WriteRecords(application, record, RecordOf(value)); });
+}
+
+bool WriteSettings(const Application& application, std::int16_t first,
+                   const std::vector<std::string>& values) {
+    return RunGuarded(application, "WriteSetting", [&] {
+        constexpr std::int16_t last = std::numeric_limits<std::int16_t>::max();
+        if (values.size() > static_cast<std::size_t>(last - first) + 1)
+            throw RunTimeError(ErrorNumber::BadRecordNumber);
+        std::string records;
+        for (const std::string& value : values)
+            records += RecordOf(value);
+        if (!records.empty())
+            WriteRecords(application, first, records);
+    });
 }
 
 bool FitsSetting(std::string_view value) {

@@ -5,6 +5,7 @@
 #include <ctime>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/Application.h"
 
@@ -45,6 +46,13 @@ std::string getSetting(const Application& application, std::int16_t record);
 /// was,
 ///         a full disk included.
 bool WriteSetting(const Application& application, std::int16_t record, std::string_view value);
+
+/// Writes values to the records from `first` on, as `WriteSetting` does, and all in one step: a
+/// program that is killed leaves the old values or the new ones.
+/// @return false after a failure, also when there are more values than records; it is logged under
+///         "WriteSetting".
+bool WriteSettings(const Application& application, std::int16_t first,
+                   const std::vector<std::string>& values);
 
 /// Whether a setting gives `value` back as it is: neither cut nor trimmed, nor taken for a record
 /// that was never written, as one that begins with a NUL is.

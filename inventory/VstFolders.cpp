@@ -1,7 +1,9 @@
 #include "inventory/VstFolders.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <utility>
 
 #include "core/Settings.h"
 #include "inventory/ReadRegistry.h"
@@ -9,8 +11,6 @@
 namespace marlo {
 
 namespace {
-
-constexpr std::int16_t kLastRecord = std::numeric_limits<std::int16_t>::max();
 
 /// Where the registry says that the plug-ins of all hosts are.
 std::string SharedVstFolder(const Application& application) {
@@ -24,9 +24,10 @@ std::string SharedVstFolder(const Application& application) {
 }  // namespace
 
 std::vector<std::string> ReadVstFolders(const Application& application) {
+    constexpr std::int32_t last = std::numeric_limits<std::int16_t>::max();
     std::vector<std::string> folders;
-    for (std::int16_t record = setting::kFirstVstFolder; record < kLastRecord; ++record) {
-        std::string folder = getSetting(application, record);
+    for (std::int32_t record = setting::kFirstVstFolder; record <= last; ++record) {
+        std::string folder = getSetting(application, static_cast<std::int16_t>(record));
         if (folder.empty())
             break;
         folders.push_back(std::move(folder));
@@ -35,14 +36,10 @@ std::vector<std::string> ReadVstFolders(const Application& application) {
 }
 
 bool WriteVstFolders(const Application& application, const std::vector<std::string>& folders) {
-    bool ok = true;
-    for (std::int16_t record = setting::kFirstVstFolder;
-         record < kLastRecord && !getSetting(application, record).empty(); ++record)
-        ok = WriteSetting(application, record, "") && ok;
-    std::int16_t record = setting::kFirstVstFolder;
-    for (const std::string& folder : folders)
-        ok = WriteSetting(application, record++, folder) && ok;
-    return ok;
+    // The records that a longer list leaves are cleared, to the first empty one.
+    std::vector<std::string> records = folders;
+    records.resize(std::max(folders.size(), ReadVstFolders(application).size()));
+    return WriteSettings(application, setting::kFirstVstFolder, records);
 }
 
 void FillInVstFolder(const Application& application) {

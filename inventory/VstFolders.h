@@ -10,9 +10,10 @@ namespace marlo {
 /// The VST plug-in folders of the settings, record 50 and up, to the first empty one.
 std::vector<std::string> ReadVstFolders(const Application& application);
 
-/// Writes the VST plug-in folders to the settings in place of those that were there.
+/// Writes the VST plug-in folders to the settings in place of those that were there, in one step: a
+/// program that is killed leaves the old list or the new one.
 /// @param folders cut to `kMaxSettingLength` bytes each.
-/// @return false when a record could not be written, which is logged under "WriteSetting".
+/// @return false when they could not be written, which is logged under "WriteSetting".
 bool WriteVstFolders(const Application& application, const std::vector<std::string>& folders);
 
 /// Where there is no VST plug-in folder yet, takes the one that the registry names for all hosts:

@@ -18,7 +18,7 @@ using test::Program;
 
 constexpr int kProjects = test::kIsSanitized ? 2000 : 10000;
 constexpr int kLibraries = 20000;
-/// In each of the two shorter tests; twice as many in the search. Each takes long under Wine and
+/// In each of the shorter tests; twice as many in the search. Each takes long under Wine and
 /// with sanitizers.
 const std::size_t kKills = test::HasUnixShell() && !test::kIsSanitized ? 50 : 15;
 const std::vector<std::string> kFiles = {"results.csv", "fln.csv", "tln.csv"};
@@ -158,6 +158,48 @@ TEST_F(KillTest, AKillWhileSettingsAreWrittenLeavesEachOldOrNew) {
     EXPECT_EQ(Setting(4), programs[0]);
     EXPECT_EQ(Setting(20), "1");
     EXPECT_EQ(Setting(21), "1");
+}
+
+TEST_F(KillTest, AKillWhileTheFoldersChangeLeavesTheOldListOrTheNew) {
+    constexpr std::size_t count = 14;
+    std::vector<std::string> whole;
+    for (std::size_t i = 0; i < count; ++i) {
+        whole.push_back(folder.MakeFolder("vst " + std::to_string(i)));
+        ASSERT_EQ(Marlo({"folders", "add", whole.back()}).exitCode, 0);
+    }
+    const std::vector<std::string> others(whole.begin() + 1, whole.end());
+    const auto list = [&] {
+        std::vector<std::string> folders;
+        for (std::size_t record = 50; !Setting(record).empty(); ++record)
+            folders.push_back(Setting(record));
+        return folders;
+    };
+    // Without the first folder, every other one has another record.
+    const auto start = std::chrono::steady_clock::now();
+    ASSERT_EQ(Marlo({"folders", "remove", whole.front()}).exitCode, 0);
+    const auto duration = std::chrono::duration_cast<std::chrono::microseconds>(
+        std::chrono::steady_clock::now() - start);
+    ASSERT_EQ(list(), others);
+
+    std::set<bool> changed;
+    for (std::size_t kill = 0; kill < kKills; ++kill) {
+        for (std::size_t i = 0; i < whole.size(); ++i)
+            WriteSetting(50 + i, whole[i]);
+        RunAndKill({"folders", "remove", whole.front()}, 2 * duration);
+        ASSERT_TRUE(list() == whole || list() == others) << "after kill " << kill;
+        changed.insert(list() == others);
+    }
+    EXPECT_EQ(changed.size(), 2U) << "the kills came all before or all after the writing";
+
+    const std::string added = folder.MakeFolder("vst");
+    std::vector<std::string> longer = whole;
+    longer.push_back(added);
+    for (std::size_t kill = 0; kill < kKills; ++kill) {
+        for (std::size_t i = 0; i <= whole.size(); ++i)
+            WriteSetting(50 + i, i < whole.size() ? whole[i] : "");
+        RunAndKill({"folders", "add", added}, 2 * duration);
+        ASSERT_TRUE(list() == whole || list() == longer) << "after kill " << kill;
+    }
 }
 
 }  // namespace

@@ -57,6 +57,21 @@ TEST_F(SettingsTest, WritingARecordLeavesItsNeighboursAlone) {
     EXPECT_EQ(getSetting(application, 3), "three");
 }
 
+TEST_F(SettingsTest, SeveralRecordsAreWrittenFromTheFirstOn) {
+    WriteSetting(application, 1, "one");
+    EXPECT_TRUE(WriteSettings(application, 2, {"two", "", std::string(300, '4')}));
+    EXPECT_EQ(getSetting(application, 1), "one");
+    EXPECT_EQ(getSetting(application, 2), "two");
+    EXPECT_EQ(getSetting(application, 3), "");
+    EXPECT_EQ(getSetting(application, 4), std::string(256, '4'));
+    EXPECT_EQ(folder.Read("settings.ini").size(), std::size_t{4} * 256);
+}
+
+TEST_F(SettingsTest, WritingNoRecordsWritesNothing) {
+    EXPECT_TRUE(WriteSettings(application, 2, {}));
+    EXPECT_FALSE(folder.Exists("settings.ini"));
+}
+
 TEST_F(SettingsTest, AValueIsKeptByteForByte) {
     WriteSetting(application, 1, "D:\\R\xE9verb, \"x\"\t");
     EXPECT_EQ(getSetting(application, 1), "D:\\R\xE9verb, \"x\"\t");

@@ -6,6 +6,7 @@
 #include "core/Settings.h"
 #include "inventory/VstFolders.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -42,6 +43,45 @@ TEST_F(VstFoldersTest, ClearingStopsAtTheFirstEmptyRecord) {
     WriteVstFolders(application, {"/b"});
     EXPECT_EQ(getSetting(application, 52), "/beyond");
     EXPECT_EQ(ReadVstFolders(application), Folders{"/b"});
+}
+
+TEST_F(VstFoldersTest, ARecordThatIsLeftOverIsBlank) {
+    WriteVstFolders(application, {"/a", "/b"});
+    WriteVstFolders(application, {"/b"});
+    const std::string bytes = folder.Read("settings.ini");
+    EXPECT_EQ(bytes.substr(std::size_t{49} * 256), "/b" + std::string(256 - 2 + 256, ' '));
+}
+
+TEST_F(VstFoldersTest, WhereverTheDiskIsFullTheListIsOldOrNew) {
+    if (!test::FileSizeLimit::IsPossible())
+        GTEST_SKIP() << test::kNoFileSizeLimit;
+    const Folders old = {"/a", "/b"};
+    const Folders changed = {"/b", "/a", "/c"};
+    WriteVstFolders(application, old);
+    const std::string before = folder.Read("settings.ini");
+    bool isWritten = false;
+    for (std::size_t limit = std::size_t{49} * 256; limit <= std::size_t{52} * 256; limit += 32) {
+        folder.Write("settings.ini", before);
+        {
+            const test::FileSizeLimit full(limit);
+            isWritten = WriteVstFolders(application, changed);
+        }
+        EXPECT_EQ(ReadVstFolders(application), isWritten ? changed : old) << limit;
+    }
+    EXPECT_TRUE(isWritten) << "at last";
+}
+
+TEST_F(VstFoldersTest, AListMayTakeEveryRecordAndNoMore) {
+    constexpr std::size_t all = 32767 - 50 + 1;
+    Folders folders(all, "/a");
+    EXPECT_TRUE(WriteVstFolders(application, folders));
+    EXPECT_EQ(folder.Read("settings.ini").size(), std::size_t{32767} * 256);
+    EXPECT_EQ(getSetting(application, 32767), "/a");
+    folders.back() = "/b";
+    folders.emplace_back("/one too many");
+    EXPECT_FALSE(WriteVstFolders(application, folders));
+    EXPECT_EQ(getSetting(application, 32767), "/a");
+    EXPECT_EQ(Log(), LogLine("WriteSetting", 63, "Bad record number"));
 }
 
 TEST_F(VstFoldersTest, SettingsThatCannotBeWrittenAreAFailure) {
