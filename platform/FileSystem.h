@@ -11,6 +11,9 @@
 
 namespace marlo::platform {
 
+// Paths are byte strings as the file system gave them. Every routine that takes one and an `error`
+// refuses a path that holds a NUL byte as `errc::invalid_argument`.
+
 /// Names that stay the same for one file or folder whatever path leads to it: device and number.
 using FileIdentity = std::pair<std::uint64_t, std::uint64_t>;
 
@@ -32,7 +35,7 @@ struct FolderEntries {
 /// An open folder; closed when it goes out of scope. Every routine clears `error` or sets it.
 class Folder {
   public:
-    /// Opens the folder at `path`.
+    /// Opens the folder at `path`. After an error the result is not open.
     static Folder Open(const std::string& path, std::error_code& error);
 
     Folder(Folder&& other) noexcept;
@@ -79,6 +82,7 @@ std::optional<std::string> ParentPath(const std::string& path);
 
 /// `path` from the root on, without "." steps and doubled separators, and without a separator at
 /// its end. Links stay as they are, except that a path with ".." steps is resolved through them.
+/// After an error the path as it was given.
 std::string FullPath(const std::string& path, std::error_code& error);
 
 /// The folder that holds the running program, without a separator at its end; "." when the system

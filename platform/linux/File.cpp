@@ -6,6 +6,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/PathCheck.h"
 #include "platform/linux/PosixError.h"
 
 namespace marlo::platform {
@@ -60,10 +61,9 @@ void File::Close() noexcept {
 }
 
 File File::Open(const std::string& path, const Mode& mode, std::error_code& error) {
-    if (path.find('\0') != std::string::npos) {
-        error = std::make_error_code(std::errc::invalid_argument);
+    error = CheckPath(path);
+    if (error)
         return {};
-    }
     // Without O_NONBLOCK, opening a pipe would wait for its other end.
     File file(open(path.c_str(), mode.flags | O_CLOEXEC | O_NONBLOCK, kNewFileMode));
     error = file.handle_ < 0 ? PosixError() : CheckRegular(file.handle_);

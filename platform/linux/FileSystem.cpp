@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/PathCheck.h"
 #include "platform/linux/PosixError.h"
 
 namespace marlo::platform {
@@ -16,11 +17,9 @@ namespace {
 
 /// Whether the status of `path` could be read. A path that leads nowhere is no error.
 bool ReadStatus(const std::string& path, struct stat& status, std::error_code& error) {
-    error.clear();
-    if (path.find('\0') != std::string::npos) {
-        error = std::make_error_code(std::errc::invalid_argument);
+    error = CheckPath(path);
+    if (error)
         return false;
-    }
     if (stat(path.c_str(), &status) == 0)
         return true;
     if (errno != ENOENT && errno != ENOTDIR)
@@ -39,8 +38,12 @@ bool IsFolderEntry(int folder, const dirent& entry) {
 }  // namespace
 
 Folder Folder::Open(const std::string& path, std::error_code& error) {
-    DIR* handle = opendir(path.c_str());
-    error = handle == nullptr ? PosixError() : std::error_code();
+    error = CheckPath(path);
+    if (error)
+        return Folder(nullptr);
+    DIR* const handle = opendir(path.c_str());
+    if (handle == nullptr)
+        error = PosixError();
     return Folder(handle);
 }
 
@@ -117,11 +120,17 @@ std::tm LastModified(const std::string& path, std::error_code& error) {
 }
 
 void RemoveFile(const std::string& path, std::error_code& error) {
-    error = unlink(path.c_str()) == 0 ? std::error_code() : PosixError();
+    error = CheckPath(path);
+    if (!error && unlink(path.c_str()) != 0)
+        error = PosixError();
 }
 
 void MoveIntoPlace(const std::string& from, const std::string& to, std::error_code& error) {
-    error = rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : PosixError();
+    error = CheckPath(from);
+    if (!error)
+        error = CheckPath(to);
+    if (!error && rename(from.c_str(), to.c_str()) != 0)
+        error = PosixError();
 }
 
 std::optional<std::string> ParentPath(const std::string& path) {
@@ -133,13 +142,19 @@ std::optional<std::string> ParentPath(const std::string& path) {
 }
 
 std::string FullPath(const std::string& path, std::error_code& error) {
-    const std::filesystem::path full = std::filesystem::absolute(path, error);
+    error = CheckPath(path);
+    if (error)
+        return path;
+    std::filesystem::path full = std::filesystem::absolute(path, error);
     if (error)
         return path;
     // A ".." behind a link leads elsewhere than the names in front of it tell.
     const bool hasParentSteps = std::find(full.begin(), full.end(), "..") != full.end();
-    std::string result = hasParentSteps ? std::filesystem::weakly_canonical(full, error).string()
-                                        : full.lexically_normal().string();
+    full =
+        hasParentSteps ? std::filesystem::weakly_canonical(full, error) : full.lexically_normal();
+    if (error)
+        return path;
+    std::string result = full.string();
     if (result.size() > 1 && result.ends_with('/'))
         result.pop_back();
     return result;

@@ -5,6 +5,7 @@
 #include <io.h>
 #include <utility>
 
+#include "platform/PathCheck.h"
 #include "platform/windows/System.h"
 #include "platform/windows/Wide.h"
 #include "platform/windows/WindowsError.h"
@@ -68,10 +69,9 @@ void File::Close() noexcept {
 }
 
 File File::Open(const std::string& path, const Mode& mode, std::error_code& error) {
-    if (path.find('\0') != std::string::npos) {
-        error = std::make_error_code(std::errc::invalid_argument);
+    error = CheckPath(path);
+    if (error)
         return {};
-    }
     const std::wstring wide = WidePath(path);
     const HANDLE handle = CreateFileW(wide.c_str(), mode.access, mode.sharing, nullptr,
                                       mode.disposition, mode.flags, nullptr);

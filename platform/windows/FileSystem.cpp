@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/PathCheck.h"
 #include "platform/windows/System.h"
 #include "platform/windows/SystemTime.h"
 #include "platform/windows/Wide.h"
@@ -18,11 +19,9 @@ struct OpenFolder {
 
 /// The attributes of what is at `path`. A path that leads nowhere is no error.
 std::optional<WIN32_FILE_ATTRIBUTE_DATA> StatusOf(const std::string& path, std::error_code& error) {
-    error.clear();
-    if (path.find('\0') != std::string::npos) {
-        error = std::make_error_code(std::errc::invalid_argument);
+    error = CheckPath(path);
+    if (error)
         return std::nullopt;
-    }
     WIN32_FILE_ATTRIBUTE_DATA status{};
     if (GetFileAttributesExW(WidePath(path).c_str(), GetFileExInfoStandard, &status) != FALSE)
         return status;
@@ -43,7 +42,9 @@ bool IsSeparator(char c) {
 }  // namespace
 
 Folder Folder::Open(const std::string& path, std::error_code& error) {
-    error.clear();
+    error = CheckPath(path);
+    if (error)
+        return Folder(nullptr);
     auto folder = std::make_unique<OpenFolder>();
     folder->path = WidePath(path);
     folder->handle = CreateFileW(folder->path.c_str(), FILE_LIST_DIRECTORY,
@@ -151,15 +152,21 @@ std::tm LastModified(const std::string& path, std::error_code& error) {
 }
 
 void RemoveFile(const std::string& path, std::error_code& error) {
-    error = DeleteFileW(WidePath(path).c_str()) != FALSE ? std::error_code() : LastWindowsError();
+    error = CheckPath(path);
+    if (!error && DeleteFileW(WidePath(path).c_str()) == FALSE)
+        error = LastWindowsError();
 }
 
 void MoveIntoPlace(const std::string& from, const std::string& to, std::error_code& error) {
-    const bool isMoved = MoveFileExW(WidePath(from).c_str(), WidePath(to).c_str(),
-                                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
-    error = isMoved ? std::error_code() : LastWindowsError();
+    error = CheckPath(from);
+    if (!error)
+        error = CheckPath(to);
+    if (error || MoveFileExW(WidePath(from).c_str(), WidePath(to).c_str(),
+                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE)
+        return;
+    error = LastWindowsError();
     std::error_code ignored;
-    if (error && IsFolder(to, ignored))
+    if (IsFolder(to, ignored))
         error = std::make_error_code(std::errc::is_a_directory);
 }
 
@@ -171,7 +178,9 @@ std::optional<std::string> ParentPath(const std::string& path) {
 }
 
 std::string FullPath(const std::string& path, std::error_code& error) {
-    error.clear();
+    error = CheckPath(path);
+    if (error)
+        return path;
     const std::wstring wide = WideText(path);
     const DWORD size = GetFullPathNameW(wide.c_str(), 0, nullptr, nullptr);
     std::wstring full(size, L'\0');

@@ -49,6 +49,12 @@ TEST_F(ScanVSTFolderTest, SubfoldersAreIncludedWhenTheyAreWanted) {
     EXPECT_EQ(Lines(false), Line("Reverb", "Reverb.dll"));
 }
 
+TEST_F(ScanVSTFolderTest, APathWithANulIsNotTakenForTheFolderInFrontOfIt) {
+    folder.Write("vst/Reverb.dll", "");
+    Scan(Vst() + std::string("\0x", 2));
+    EXPECT_EQ(folder.Read("list.csv"), "");
+}
+
 TEST_F(ScanVSTFolderTest, FilesComeBeforeSubfoldersAndNamesInOrderWithoutRegardToCase) {
     for (const char* name :
          {"b.dll", "A.dll", "C.dll", "a sub/z.dll", "B sub/y.dll", "a sub/1/x.dll"})

@@ -23,6 +23,15 @@ TEST(PathTest, AFullPathGoesUpFromWhereALinkLeads) {
     EXPECT_FALSE(error);
 }
 
+TEST(FullPathTest, APathThatCannotBeResolvedIsGivenBack) {
+    const test::TempFolder folder;
+    std::filesystem::create_symlink("loop", folder.Path("loop"));
+    const std::string path = folder.Path("loop") + "/../a";
+    std::error_code error;
+    EXPECT_EQ(FullPath(path, error), path);
+    EXPECT_EQ(error, std::errc::too_many_symbolic_link_levels);
+}
+
 TEST(ParentPathTest, IsWhatStandsInFrontOfTheLastSeparator) {
     EXPECT_EQ(ParentPath("/vst/Reverb.dll"), "/vst");
     EXPECT_EQ(ParentPath("C:\\vst\\Reverb.dll"), "C:\\vst");
