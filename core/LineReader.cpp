@@ -31,6 +31,8 @@ bool LineReader::Next(std::string_view& line) {
             return true;
         }
         searched = unread.size();
+        if (searched > kMaxLineLength)
+            throw RunTimeError(ErrorNumber::OutOfMemory);
         if (!ReadMore())
             break;
     }

@@ -9,6 +9,9 @@
 
 namespace marlo {
 
+/// A longer line is no record, and would take all memory.
+inline constexpr std::size_t kMaxLineLength = std::size_t{257} * 1024 * 1024;
+
 /// Reads a file line by line. Lines end with CR LF or LF; the last one needs no end.
 class LineReader {
   public:
@@ -18,7 +21,8 @@ class LineReader {
     /// Reads the next line, without its end.
     /// @param line the line, which is there until the next one is read.
     /// @return false at the end of the file.
-    /// @throws RunTimeError when the disk fails.
+    /// @throws RunTimeError when the disk fails, and "Out of memory" at a line that is longer than
+    ///         `kMaxLineLength` by more than what is read at once.
     bool Next(std::string_view& line);
 
   private:

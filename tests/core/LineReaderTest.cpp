@@ -1,3 +1,5 @@
+#include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -6,6 +8,7 @@
 
 #include "core/LineReader.h"
 #include "core/RunTimeError.h"
+#include "tests/support/System.h"
 #include "tests/support/TempFolder.h"
 
 namespace marlo {
@@ -55,13 +58,23 @@ TEST_F(LineReaderTest, LinesMayBeLongerThanWhatIsReadAtOnce) {
     EXPECT_EQ(Read(a + "\r\n" + b + "\r\nc\r\n" + a), (Lines{a, b, "c", a}));
 }
 
-TEST_F(LineReaderTest, AFileThatCannotBeReadIsAFailureEachTime) {
-    // The start of a process's memory cannot be read, though the file can be opened.
-    LineReader reader("/proc/self/mem");
-    for (int i = 0; i < 2; ++i) {
-        std::string_view line;
-        EXPECT_THROW(reader.Next(line), RunTimeError);
-    }
+TEST_F(LineReaderTest, ALineWithoutEndDoesNotTakeAllMemory) {
+    const std::string path = folder.Write("file", "first\n");
+    std::filesystem::resize_file(path, std::uintmax_t{2} << 30U);
+    LineReader reader(path);
+    std::string_view line;
+    EXPECT_TRUE(reader.Next(line));
+    EXPECT_EQ(line, "first");
+    ErrorNumber failure = ErrorNumber::None;
+    const std::size_t taken = test::MemoryTakenBy([&] {
+        try {
+            reader.Next(line);
+        } catch (const RunTimeError& tooLong) {
+            failure = tooLong.Number();
+        }
+    });
+    EXPECT_EQ(failure, ErrorNumber::OutOfMemory);
+    EXPECT_LT(taken, 3 * kMaxLineLength);
 }
 
 TEST_F(LineReaderTest, AMissingFileOrAFolderIsAFailure) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <string>
 
 namespace marlo::test {
@@ -59,6 +60,9 @@ class FileSizeLimit {
     static bool IsPossible();
 };
 constexpr const char* kNoFileSizeLimit = "the size of files cannot be limited here";
+
+/// Does something. @return by how much the most memory that this process has had at once grew.
+std::size_t MemoryTakenBy(const std::function<void()>& action);
 
 /// Whether a Unix shell can limit the memory of the programs that it starts.
 bool CanLimitMemory();

@@ -5,6 +5,7 @@
 #include <ctime>
 #include <exception>
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -23,6 +24,18 @@ constexpr bool kHasShadowMemory = true;
 #else
 constexpr bool kHasShadowMemory = false;
 #endif
+
+/// The most memory that this process has had so far, in bytes.
+std::size_t PeakMemory() {
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;)
+        if (word == "VmHWM:") {
+            std::size_t kibibytes = 0;
+            status >> kibibytes;
+            return kibibytes * 1024;
+        }
+    throw std::runtime_error("the system does not tell of this process's memory");
+}
 
 }  // namespace
 
@@ -79,6 +92,14 @@ FileSizeLimit::~FileSizeLimit() {
 
 bool FileSizeLimit::IsPossible() {
     return true;
+}
+
+std::size_t MemoryTakenBy(const std::function<void()>& action) {
+    // What the process had before may have been more.
+    std::ofstream("/proc/self/clear_refs") << 5;
+    const std::size_t before = PeakMemory();
+    action();
+    return PeakMemory() - before;
 }
 
 bool CanLimitMemory() {

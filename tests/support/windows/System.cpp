@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <string_view>
 #include <windows.h>
+// After the header that it needs.
+#include <psapi.h>
 
 #include "tests/support/TempFolder.h"
 
@@ -47,6 +49,14 @@ void RunBelowWine(const std::wstring& command, const std::function<bool()>& isDo
 }
 
 bool linksWereMade = false;
+
+/// The most memory that this process has had so far, in bytes.
+std::size_t PeakMemory() {
+    PROCESS_MEMORY_COUNTERS counters{};
+    if (GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters) == FALSE)
+        throw std::runtime_error("the system does not tell of this process's memory");
+    return counters.PeakWorkingSetSize;
+}
 
 }  // namespace
 
@@ -112,6 +122,12 @@ FileSizeLimit::~FileSizeLimit() = default;
 
 bool FileSizeLimit::IsPossible() {
     return false;
+}
+
+std::size_t MemoryTakenBy(const std::function<void()>& action) {
+    const std::size_t before = PeakMemory();
+    action();
+    return PeakMemory() - before;
 }
 
 bool CanLimitMemory() {
