@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/ErrorLog.h"
+#include "core/LineReader.h"
 #include "core/Records.h"
 #include "core/RunTimeError.h"
 #include "scan/BankFinder.h"
@@ -16,6 +17,8 @@ namespace {
 // Seven characters either way, so that the state starts in the same place behind the name.
 constexpr std::string_view kVst = "VST    ";
 constexpr std::string_view kDirectX = "DirectX";
+
+static_assert(kMaxRecordText < kMaxLineLength, "every record that is written can be read again");
 
 /// Makes the records of one project and puts them into the lists.
 class RecordCollector {
@@ -43,15 +46,16 @@ class RecordCollector {
 
   private:
     void Account(std::size_t length) {
-        if (length > kMaxRecordText - used_)
+        if (length > left_ || length > lists_.recordTextLeft)
             throw RunTimeError(ErrorNumber::OutOfMemory);
-        used_ += length;
+        left_ -= length;
+        lists_.recordTextLeft -= length;
     }
 
     SearchLists& lists_;
     const std::string& path_;
     std::string& lastRecord_;
-    std::size_t used_ = 0;
+    std::size_t left_ = kMaxRecordText;
 };
 
 }  // namespace

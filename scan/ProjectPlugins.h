@@ -19,8 +19,9 @@ inline constexpr std::size_t kMaxRecordText = std::size_t{256} * 1024 * 1024;
 /// @param path the project's path, which need not be free of commas or quotes.
 /// @return true when the file was scanned, also when it ends in the middle of a bank. False after a
 ///         failure: the file cannot be opened or read, a bank starts within the first 52 bytes, or
-///         the records would pass `kMaxRecordText` ("Out of memory"). It is logged under
-///         "GetPlugins4Project <path> <last record built>"; what was found before is kept.
+///         the records would pass `kMaxRecordText`, or those of all projects `kMaxTotalRecordText`
+///         ("Out of memory"). It is logged under "GetPlugins4Project <path> <last record built>";
+///         what was found before is kept.
 bool GetPlugins4Project(const Application& application, SearchLists& lists,
                         const std::string& path);
 

@@ -58,6 +58,10 @@ class MergedStates {
     std::vector<Entry> entries_;  // in the order of the keys' numbers
 };
 
+/// How much record text, in bytes, all projects together may add to the lists: as much as a machine
+/// mostly has. Many hostile projects would otherwise take all memory.
+inline constexpr std::size_t kMaxTotalRecordText = std::size_t{sizeof(void*) > 4 ? 2U : 1U} << 30U;
+
 /// What one search run collects.
 struct SearchLists {
     /// The projects' full paths.
@@ -68,6 +72,8 @@ struct SearchLists {
     /// A key record for every plug-in of a project, the first three fields of the occurrence
     /// record, with its merged state (`ProjectPluginStates`).
     MergedStates ProjectPluginKeys;
+    /// How much record text, in bytes, may still be added.
+    std::size_t recordTextLeft = kMaxTotalRecordText;
 
     /// Empties the lists and gives their memory back.
     void Clear() { *this = {}; }

@@ -277,6 +277,24 @@ TEST_F(ProjectPluginsTest, RecordsBeyond256MiBAreOutOfMemoryAndTheEarlierOnesKep
                                     std::string(lists.ProjectPluginKeys[1].key));
 }
 
+TEST_F(ProjectPluginsTest, WhatAllProjectsAddToTheListsHasALimitToo) {
+    const std::string bytes = kFront + PluginBytes({.name = "Delay"});
+    EXPECT_TRUE(Scan(bytes));
+    const std::size_t used = kMaxTotalRecordText - lists.recordTextLeft;
+    const std::string occurrence = Occurrences().at(0);
+    EXPECT_EQ(used, occurrence.size() + lists.ProjectPluginKeys[1].key.size());
+
+    lists.Clear();
+    EXPECT_EQ(lists.recordTextLeft, kMaxTotalRecordText);
+    lists.recordTextLeft = 2 * used - 1;
+    EXPECT_TRUE(Scan(bytes));
+    EXPECT_EQ(Log(), "");
+    EXPECT_FALSE(Scan(bytes, "other.cpr"));
+    EXPECT_NE(Log().find("Error No.: 7 Description: Out of memory"), std::string::npos) << Log();
+    EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 1U);
+    EXPECT_EQ(Occurrences().at(0), occurrence);
+}
+
 TEST_F(ProjectPluginsTest, ANameOfMoreThan256MiBThatRunsToTheEndIsDroppedQuietly) {
     const std::string path = folder.Path("long.cpr");
     {
@@ -291,19 +309,6 @@ TEST_F(ProjectPluginsTest, ANameOfMoreThan256MiBThatRunsToTheEndIsDroppedQuietly
     EXPECT_EQ(Occurrences(), Texts{});
 }
 
-/// The most memory that this process has used so far, in KiB.
-long PeakMemory() {
-    std::ifstream status("/proc/self/status");
-    for (std::string word; status >> word;)
-        if (word == "VmHWM:") {
-            long kib = 0;
-            status >> kib;
-            return kib;
-        }
-    ADD_FAILURE() << "no VmHWM";
-    return 0;
-}
-
 TEST_F(ProjectPluginsTest, AProjectOf4GiBIsScannedWithin16MiB) {
     const std::string bank = std::string(8, '\0') + PluginBytes({.name = "Far out"});
     const std::uint64_t size = (std::uint64_t{4} << 30U) + 1000;
@@ -311,11 +316,9 @@ TEST_F(ProjectPluginsTest, AProjectOf4GiBIsScannedWithin16MiB) {
     std::filesystem::resize_file(path, size);
     std::fstream(path, std::ios::binary | std::ios::in | std::ios::out | std::ios::ate) << bank;
 
-    // Earlier tests of this program may have used more.
-    std::ofstream("/proc/self/clear_refs") << 5;
-    const long before = PeakMemory();
-    EXPECT_TRUE(GetPlugins4Project(application, lists, path));
-    EXPECT_LT(PeakMemory() - before, 16 * 1024);
+    const std::size_t taken =
+        test::MemoryTakenBy([&] { EXPECT_TRUE(GetPlugins4Project(application, lists, path)); });
+    EXPECT_LT(taken, std::size_t{16} * 1024 * 1024);
     EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 2U);
     EXPECT_EQ(Keys(), Texts{Key("Far out", "VST    ", "huge.cpr") + " On"});
 }
