@@ -252,9 +252,7 @@ class CommandLine {
         std::cout << out.str();
         if (code == 0)
             return FinishOutput(kDone);
-        std::istringstream lines(complaint.str());
-        for (std::string line; std::getline(lines, line);)
-            std::cerr << Printable(line) << '\n';
+        std::cerr << PrintableLines(complaint.str());
         return kWrongUsage;
     }
 

@@ -89,6 +89,13 @@ void PrintCsv(const ResultList& list) {
     }
 }
 
+/// The same.
+void PrintHtml(const ResultPane& pane, const std::string& title) {
+    const std::string page =
+        ListAsHtml(pane.lstSongs, SortedColumn(pane), title, pane.application.clock.Now());
+    std::cout << (platform::IsTerminal(platform::Stream::Out) ? PrintableLines(page) : page);
+}
+
 }  // namespace
 
 void PrintList(const ResultPane& pane, const std::string& title, ListFormat format) {
@@ -100,8 +107,7 @@ void PrintList(const ResultPane& pane, const std::string& title, ListFormat form
         case ListFormat::Json:
             return PrintJson(pane.lstSongs);
         case ListFormat::Html:
-            std::cout << ListAsHtml(pane.lstSongs, SortedColumn(pane), title,
-                                    pane.application.clock.Now());
+            return PrintHtml(pane, title);
     }
 }
 

@@ -91,6 +91,16 @@ std::string Printable(std::string_view field) {
     return EncodeUtf8(printable);
 }
 
+std::string PrintableLines(std::string_view lines) {
+    std::string printable;
+    for (std::size_t end = lines.find('\n'); end != std::string_view::npos;
+         end = lines.find('\n')) {
+        printable += Printable(lines.substr(0, end)) + '\n';
+        lines.remove_prefix(end + 1);
+    }
+    return printable + Printable(lines);
+}
+
 int DisplayWidth(std::string_view printable) {
     return CellsOf(Decode(printable));
 }

@@ -10,6 +10,9 @@ namespace marlo::cli {
 /// `\u{N}` instead, so that no name from a file can act on the terminal.
 std::string Printable(std::string_view field);
 
+/// Lines for a person to read, each as `Printable` has it; the line ends stay.
+std::string PrintableLines(std::string_view lines);
+
 /// How many cells of a terminal `printable` takes; `printable` comes from `Printable`.
 int DisplayWidth(std::string_view printable);
 

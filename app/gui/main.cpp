@@ -6,6 +6,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "app/cli/TerminalText.h"
 #include "app/gui/Form1Window.h"
 #include "app/gui/GuiApp.h"
 #include "core/ErrorLog.h"
@@ -52,7 +53,7 @@ class MarloApp final : public GuiApp {
 };
 
 int Complain(const std::string& text) {
-    platform::Announce(platform::Stream::Error, "marlo: " + text + "\n");
+    platform::Announce(platform::Stream::Error, "marlo: " + cli::Printable(text) + "\n");
     return 1;
 }
 
@@ -110,7 +111,7 @@ int RunCommandLine(int argc, char** argv) {
         if (isAnswer)
             platform::Announce(platform::Stream::Out, answer.str());
         else
-            platform::Announce(platform::Stream::Error, complaint.str());
+            platform::Announce(platform::Stream::Error, cli::PrintableLines(complaint.str()));
         constexpr int wrongUsage = 2;
         return isAnswer ? 0 : wrongUsage;
     }

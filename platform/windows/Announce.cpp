@@ -1,12 +1,21 @@
 #include "platform/Announce.h"
 
 #include "platform/MessageBox.h"
-#include "platform/WideText.h"
 #include "platform/windows/System.h"
 
 namespace marlo::platform {
 
 namespace {
+
+std::wstring WideFromUtf8(const std::string& text) {
+    const auto length = static_cast<int>(text.size());
+    std::wstring wide(
+        static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, text.data(), length, nullptr, 0)),
+        L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, text.data(), length, wide.data(),
+                        static_cast<int>(wide.size()));
+    return wide;
+}
 
 /// @return false when the stream leads nowhere, as a windowed program's does that was started from
 ///         the desktop.
@@ -37,7 +46,7 @@ bool WriteToConsole(const std::wstring& text) {
 }  // namespace
 
 void Announce(Stream stream, const std::string& text) {
-    const std::wstring wide = WideText(text);
+    const std::wstring wide = WideFromUtf8(text);
     // The shell has not waited: its prompt is there already.
     if (WriteToStream(stream, text) || WriteToConsole(L"\n" + wide))
         return;

@@ -162,6 +162,19 @@ TEST_F(ReportCommandTest, CsvOnATerminalCannotActOnIt) {
     EXPECT_NE(shown.find("\\x1B[2J"), std::string::npos);
 }
 
+TEST_F(ReportCommandTest, APageOnATerminalCannotActOnIt) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
+    WriteResult("tln.csv", "\"\x1b[2J\xE2\x80\xAE\",\"VST\",\"On\"\r\n\"Echo\",\"VST\",\"On\"\r\n");
+    const std::vector<std::string> report = {"report", "used", "--format", "html"};
+    const std::string shown = InTerminal(report, "xterm");
+    EXPECT_EQ(shown.find('\x1b'), std::string::npos);
+    EXPECT_EQ(shown.find("\xE2\x80\xAE"), std::string::npos);
+    EXPECT_NE(shown.find("<td>Echo</td>"), std::string::npos);
+    EXPECT_NE(Marlo(report).out.find("\xE2\x80\xAE"), std::string::npos)
+        << "a program gets it as it is";
+}
+
 TEST_F(ReportCommandTest, AFailureIsSaidAndTheRowsFoundBeforeItArePrinted) {
     std::filesystem::remove(folder.Path("app/resultfiles/tln.csv"));
     const auto result = Marlo({"report", "uninstalled"});

@@ -35,6 +35,12 @@ TEST(PrintableTest, WhatTurnsTheWritingDirectionOrEndsTheLineIsShown) {
     EXPECT_EQ(Printable("\xF3\xA0\x80\x81"), "\\u{E0001}");
 }
 
+TEST(PrintableTest, OfLinesTheEndsStay) {
+    EXPECT_EQ(PrintableLines("a\x1b[2J\n\nR\xE9verb\r\n\tb"),
+              "a\\x1B[2J\n\nR\xC3\xA9verb\\r\n\\tb");
+    EXPECT_EQ(PrintableLines(""), "");
+}
+
 TEST(DisplayWidthTest, WideAndCombiningCharactersCountAsTheyShow) {
     EXPECT_EQ(DisplayWidth("abc"), 3);
     EXPECT_EQ(DisplayWidth("\xE6\x9B\xB2\xF0\x9F\x8E\xB9"), 4);

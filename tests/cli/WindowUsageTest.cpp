@@ -44,6 +44,17 @@ TEST_F(WindowUsageTest, AMissingApplicationFolderIsSaid) {
               "marlo: the application folder " + folder.Path("gone") + " does not exist\n");
 }
 
+TEST_F(WindowUsageTest, AnEscapeSequenceOnTheCommandLineIsNotEchoed) {
+    const auto wrong = MarloWindow({"--x\x1b[2J"});
+    EXPECT_EQ(wrong.exitCode, 2);
+    EXPECT_EQ(wrong.error.find('\x1b'), std::string::npos);
+    EXPECT_NE(wrong.error.find("--x\\x1B[2J"), std::string::npos) << wrong.error;
+    const auto missing = MarloWindow({"--app-folder", folder.Path("gone") + "\x1b[2J"});
+    EXPECT_EQ(missing.exitCode, 1);
+    EXPECT_EQ(missing.error,
+              "marlo: the application folder " + folder.Path("gone") + "\\x1B[2J does not exist\n");
+}
+
 TEST_F(WindowUsageTest, TheManualPageTellsOfEveryOption) {
     const std::string manual = folder.Read(MARLO_SOURCE "/docs/man/marlo.1");
     for (const std::string word :
