@@ -77,13 +77,19 @@ StagedFile::~StagedFile() {
         platform::RemoveFile(stagingPath_, ignored);
 }
 
-/// Makes an attempt, and while an old file is there repeats it until the user cancels.
+/// Makes an attempt, and while that is denied and an old file is there repeats it until the user
+/// cancels.
 /// @return whether it succeeded.
+/// @throws RunTimeError after another failure.
 bool StagedFile::Try(const Attempt& attempt) {
     std::error_code error;
     if (platform::IsFile(path_, error)) {
         MessageAnswer answer = MessageAnswer::None;
-        AskUntilFree(window_, path_, answer, attempt);
+        AskUntilFree(window_, path_, answer, [&](std::error_code& failure) {
+            attempt(failure);
+            if (!IsDenied(failure))
+                ThrowOnPath(failure);
+        });
         return answer != MessageAnswer::Cancel;
     }
     attempt(error);
@@ -94,8 +100,6 @@ bool StagedFile::Try(const Attempt& attempt) {
 bool StagedFile::Create() {
     isStaged_ = Try([&](std::error_code& error) {
         writer_ = LineWriter(platform::File::OpenExclusively(stagingPath_, error));
-        if (!IsDenied(error))
-            ThrowOnPath(error);
     });
     return isStaged_;
 }
@@ -106,8 +110,8 @@ bool StagedFile::MoveIntoPlace() {
 }
 
 bool StagedFile::MoveWhatIsWrittenIntoPlace() {
-    const bool moved = Try(
-        [&](std::error_code& failure) { platform::MoveIntoPlace(stagingPath_, path_, failure); });
+    const bool moved =
+        Try([&](std::error_code& error) { platform::MoveIntoPlace(stagingPath_, path_, error); });
     isStaged_ = !moved;
     return moved;
 }

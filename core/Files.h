@@ -50,9 +50,9 @@ class StagedFile {
     /// Writes the new version's lines.
     LineWriter& Lines() { return writer_; }
 
-    /// Takes the old file's place when all of it is on the disk. Asks while the old file cannot be
-    /// replaced.
-    /// @throws RunTimeError when something else than a file is in the way, or the disk is full.
+    /// Takes the old file's place when all of it is on the disk. Asks while that is denied.
+    /// @throws RunTimeError when it cannot for another reason, such as a full disk or something
+    ///         else than a file in the way, or there is no old file to ask about.
     bool MoveIntoPlace();
 
     /// The same with as much as could be written.

@@ -1,5 +1,6 @@
 #include "core/RunTimeError.h"
 
+#include <cerrno>
 #include <new>
 #include <stdexcept>
 #include <utility>
@@ -8,10 +9,21 @@ namespace marlo {
 
 namespace {
 
+/// A quota that is used up, where a system has quotas; the standard has no name for it.
+bool IsQuotaExceeded([[maybe_unused]] const std::error_condition& condition) {
+#ifdef EDQUOT
+    return condition.value() == EDQUOT;
+#else
+    return false;
+#endif
+}
+
 ErrorNumber NumberFor(const std::error_code& error) {
     const std::error_condition condition = error.default_error_condition();
     if (condition.category() != std::generic_category())
         return ErrorNumber::DeviceIo;
+    if (IsQuotaExceeded(condition))
+        return ErrorNumber::DiskFull;
     switch (static_cast<std::errc>(condition.value())) {
         case std::errc::not_enough_memory:
             return ErrorNumber::OutOfMemory;

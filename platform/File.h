@@ -38,6 +38,9 @@ class File {
     /// While another program has it open so, this fails with `errc::device_or_resource_busy`.
     static File OpenExclusively(const std::string& path, std::error_code& error);
 
+    /// The file's size in bytes.
+    std::uint64_t Size(std::error_code& error) const;
+
     /// Reads into `buffer` from byte `offset` (0-based) until it is full or the file ends.
     /// @return the number of bytes read; fewer than `buffer` holds only at the end of the file or
     ///         on an error.

@@ -103,6 +103,12 @@ File File::OpenExclusively(const std::string& path, std::error_code& error) {
     }
 }
 
+std::uint64_t File::Size(std::error_code& error) const {
+    struct stat status {};
+    error = fstat(handle_, &status) == 0 ? std::error_code() : PosixError();
+    return error ? 0 : static_cast<std::uint64_t>(status.st_size);
+}
+
 std::size_t File::ReadAt(std::uint64_t offset, std::span<unsigned char> buffer,
                          std::error_code& error) const {
     error.clear();

@@ -1,7 +1,6 @@
 #include "platform/linux/WineRegistryFile.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <limits>
 #include <set>
 
@@ -19,7 +18,7 @@ std::string ReadWhole(const std::string& path, std::error_code& error) {
     if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory)
         error.clear();
     else if (!error) {
-        const auto size = std::filesystem::file_size(path, error);
+        const std::uint64_t size = file.Size(error);
         if (!error && size > std::numeric_limits<std::uint32_t>::max())
             error = std::make_error_code(std::errc::file_too_large);
         if (error)

@@ -138,6 +138,13 @@ File File::OpenExclusively(const std::string& path, std::error_code& error) {
     return file;
 }
 
+std::uint64_t File::Size(std::error_code& error) const {
+    LARGE_INTEGER size{};
+    const bool isKnown = GetFileSizeEx(HandleOf(handle_), &size) != FALSE;
+    error = isKnown ? std::error_code() : LastWindowsError();
+    return static_cast<std::uint64_t>(size.QuadPart);
+}
+
 std::size_t File::ReadAt(std::uint64_t offset, std::span<unsigned char> buffer,
                          std::error_code& error) const {
     error.clear();

@@ -62,7 +62,8 @@ int WindowsDesktop::ShellExecute(const ShellRequest& request) const {
 std::string WindowsDesktop::ShortPath(const std::string& path) const {
     std::array<char, MAX_PATH> buffer{};
     const DWORD length = GetShortPathNameA(path.c_str(), buffer.data(), MAX_PATH);
-    return {buffer.data(), std::min<std::size_t>(length, buffer.size())};
+    // For a buffer that is too small, the length is the one that it should have.
+    return length < buffer.size() ? std::string(buffer.data(), length) : path;
 }
 
 }  // namespace marlo::platform

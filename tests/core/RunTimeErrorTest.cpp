@@ -1,3 +1,8 @@
+#include <cerrno>
+#include <ios>
+#include <new>
+#include <stdexcept>
+#include <string>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -35,12 +40,54 @@ TEST(RunTimeErrorTest, ErrorsOfThePlatformHaveTheirNumbers) {
         {std::errc::file_too_large, ErrorNumber::DiskFull},
         {std::errc::permission_denied, ErrorNumber::PermissionDenied},
         {std::errc::device_or_resource_busy, ErrorNumber::PermissionDenied},
+        {std::errc::operation_not_permitted, ErrorNumber::PermissionDenied},
+        {std::errc::text_file_busy, ErrorNumber::PermissionDenied},
+        {std::errc::file_exists, ErrorNumber::PathFileAccess},
+        {std::errc::invalid_seek, ErrorNumber::PathFileAccess},
+        {std::errc::too_many_symbolic_link_levels, ErrorNumber::PathFileAccess},
+        {std::errc::too_many_files_open, ErrorNumber::DeviceIo},
         {std::errc::is_a_directory, ErrorNumber::PathFileAccess},
         {std::errc::read_only_file_system, ErrorNumber::PathFileAccess},
         {std::errc::not_a_directory, ErrorNumber::PathNotFound},
     };
     for (const auto& [condition, number] : expected)
         EXPECT_EQ(NumberOf(condition, ThrowOn), number) << static_cast<int>(condition);
+}
+
+#ifdef EDQUOT
+TEST(RunTimeErrorTest, AQuotaThatIsUsedUpIsAFullDisk) {
+    EXPECT_EQ(NumberOf(static_cast<std::errc>(EDQUOT), ThrowOn), ErrorNumber::DiskFull);
+}
+#endif
+
+TEST(RunTimeErrorTest, WhatIsNoErrorOfThePlatformIsADeviceError) {
+    try {
+        ThrowOn(std::make_error_code(std::io_errc::stream));
+        ADD_FAILURE();
+    } catch (const RunTimeError& failure) {
+        EXPECT_EQ(failure.Number(), ErrorNumber::DeviceIo);
+    }
+}
+
+template <class Exception>
+RunTimeError FailureFor(const Exception& exception) {
+    try {
+        throw exception;
+    } catch (...) {
+        return CurrentFailure();
+    }
+}
+
+TEST(RunTimeErrorTest, AnyExceptionIsAFailureWithANumber) {
+    EXPECT_EQ(FailureFor(RunTimeError(ErrorNumber::TypeMismatch, "text")).Number(),
+              ErrorNumber::TypeMismatch);
+    EXPECT_EQ(FailureFor(RunTimeError(ErrorNumber::TypeMismatch, "text")).Description(), "text");
+    EXPECT_EQ(FailureFor(std::bad_alloc()).Number(), ErrorNumber::OutOfMemory);
+    EXPECT_EQ(FailureFor(std::length_error("too long")).Number(), ErrorNumber::OutOfMemory);
+    EXPECT_EQ(FailureFor(std::out_of_range("which")).Number(), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(FailureFor(std::out_of_range("which")).Description(), "which");
+    EXPECT_EQ(FailureFor(7).Number(), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(FailureFor(7).Description(), "Invalid procedure call");
 }
 
 TEST(RunTimeErrorTest, WhereAFolderIsLookedForThePathIsNotFound) {
@@ -51,13 +98,23 @@ TEST(RunTimeErrorTest, WhereAFolderIsLookedForThePathIsNotFound) {
 
 TEST(RunTimeErrorTest, EveryNumberHasItsDescription) {
     const std::vector<std::pair<int, std::string>> expected = {
-        {5, "Invalid procedure call"},   {7, "Out of memory"},
-        {9, "Subscript out of range"},   {13, "Type mismatch"},
-        {52, "Bad file name or number"}, {53, "File not found"},
-        {57, "Device I/O error"},        {61, "Disk full"},
-        {62, "Input past end of file"},  {63, "Bad record number"},
-        {70, "Permission denied"},       {75, "Path/File access error"},
-        {76, "Path not found"},          {35602, "Key is not unique in collection"}};
+        {5, "Invalid procedure call"},
+        {7, "Out of memory"},
+        {9, "Subscript out of range"},
+        {13, "Type mismatch"},
+        {52, "Bad file name or number"},
+        {53, "File not found"},
+        {57, "Device I/O error"},
+        {61, "Disk full"},
+        {62, "Input past end of file"},
+        {63, "Bad record number"},
+        {70, "Permission denied"},
+        {75, "Path/File access error"},
+        {76, "Path not found"},
+        {91, "Object variable not set"},
+        {0, ""},
+        {1, ""},
+        {35602, "Key is not unique in collection"}};
     for (const auto& [number, description] : expected)
         EXPECT_EQ(DescriptionOf(static_cast<ErrorNumber>(number)), description) << number;
 }

@@ -84,5 +84,13 @@ TEST_F(FileTest, MovingAFileMovesItsHandle) {
     EXPECT_EQ(folder.Read("a"), "x");
 }
 
+TEST_F(FileTest, AnOpenFileTellsItsSize) {
+    auto file = File::OpenForUpdating(folder.Path("file"), error);
+    EXPECT_EQ(file.Size(error), 0U);
+    file.WriteAt(100, "abc", error);
+    EXPECT_EQ(file.Size(error), 103U);
+    EXPECT_FALSE(error);
+}
+
 }  // namespace
 }  // namespace marlo::platform
