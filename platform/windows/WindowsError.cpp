@@ -25,7 +25,6 @@ std::errc MeaningOf(unsigned long number) {
             return std::errc::read_only_file_system;
         case ERROR_DISK_FULL:
         case ERROR_HANDLE_DISK_FULL:
-        case ERROR_DISK_QUOTA_EXCEEDED:
             return std::errc::no_space_on_device;
         case ERROR_FILE_TOO_LARGE:
             return std::errc::file_too_large;

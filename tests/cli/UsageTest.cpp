@@ -1,3 +1,5 @@
+#include <regex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -69,40 +71,52 @@ TEST_F(UsageTest, AMissingApplicationFolderIsSaid) {
               "marlo-cli: the application folder " + folder.Path("gone") + " does not exist\n");
 }
 
-TEST_F(UsageTest, TheManualPageTellsOfEveryCommandAndOption) {
+/// The options that a text names, as "--option".
+std::set<std::string> OptionsIn(const std::string& text) {
+    static const std::regex option("--[a-z]+(-[a-z]+)*");
+    std::set<std::string> options;
+    for (std::sregex_iterator at(text.begin(), text.end(), option), end; at != end; ++at)
+        options.insert(at->str());
+    return options;
+}
+
+/// A part of a manual page, from its heading to the next one; empty when there is none.
+std::string PartOf(const std::string& manual, const std::string& heading) {
+    const std::size_t start = manual.find("\n" + heading);
+    if (start == std::string::npos)
+        return {};
+    const std::size_t end = manual.find("\n.S", start + 1);
+    return std::regex_replace(manual.substr(start, end - start), std::regex(R"(\\-)"), "-");
+}
+
+TEST_F(UsageTest, TheManualPageTellsOfEveryCommandWithItsOptions) {
     const std::string manual = folder.Read(MARLO_SOURCE "/docs/man/marlo-cli.1");
-    for (const std::string word : {"plugins",
-                                   "search",
-                                   "\\-\\-merged",
-                                   "\\-\\-format",
-                                   "\\-\\-no\\-subfolders",
-                                   "\\-\\-progress",
-                                   "installed",
-                                   "\\-\\-wine\\-prefix",
-                                   "report",
-                                   "used",
-                                   "unused",
-                                   "uninstalled",
-                                   "html",
-                                   "find",
-                                   "\\-\\-in",
-                                   "\\-\\-match",
-                                   "\\-\\-ignore\\-case",
-                                   "\\-\\-no\\-ignore\\-case",
-                                   "folders",
-                                   "list",
-                                   "add",
-                                   "remove",
-                                   "options",
-                                   "\\-\\-csv\\-program",
-                                   "\\-\\-ignore\\-directx",
-                                   "\\-\\-ignore\\-off",
-                                   "log",
-                                   "\\-\\-app\\-folder",
-                                   "\\-\\-help",
-                                   "\\-\\-version",
-                                   "130"})
-        EXPECT_NE(manual.find(word), std::string::npos) << word;
+    const std::set<std::string> common = OptionsIn(PartOf(manual, ".SH OPTIONS"));
+    EXPECT_EQ(common, (std::set<std::string>{"--app-folder", "--help", "--version"}));
+    for (const std::string command :
+         {"plugins", "search", "installed", "report", "find", "folders", "options", "log"}) {
+        const std::string part = PartOf(manual, ".SS " + command);
+        EXPECT_NE(part, "") << command;
+        const std::set<std::string> told = OptionsIn(part);
+        const std::set<std::string> offered = OptionsIn(Marlo({command, "--help"}).out);
+        EXPECT_TRUE(offered.contains("--help")) << command;
+        for (const std::string& option : offered)
+            EXPECT_TRUE(told.contains(option) || common.contains(option)) << command << option;
+    }
+}
+
+TEST_F(UsageTest, TheManualPageTellsOfTheReportsTheFoldersAndTheExitCodes) {
+    const std::string manual = folder.Read(MARLO_SOURCE "/docs/man/marlo-cli.1");
+    EXPECT_NE(manual.find(".SS report used | unused | installed | uninstalled\n"),
+              std::string::npos);
+    for (const std::string kind : {"used", "unused", "installed", "uninstalled"})
+        EXPECT_NE(PartOf(manual, ".SS report").find(".TP\n.B " + kind + "\n"), std::string::npos);
+    for (const std::string format : {"table", "csv", "json", "html"})
+        EXPECT_NE(PartOf(manual, ".SS report").find("\n.B " + format + "\n"), std::string::npos);
+    EXPECT_NE(manual.find(".SS folders [list | add DIR | remove DIR]\n"), std::string::npos);
+    for (const std::string code : {"0", "1", "2", "130"})
+        EXPECT_NE(PartOf(manual, ".SH EXIT STATUS").find("\n.B " + code + "\n"), std::string::npos)
+            << code;
 }
 
 }  // namespace

@@ -195,9 +195,12 @@ TEST_F(FilterDataTest, AGuidIsWrittenInDisplayOrder) {
               "33221100-5544-7766-8899-AABBCCDDEEFF");
 }
 
-TEST_F(FilterDataTest, AShortGuidIsAFailure) {
-    FormatGUID(application, "0011");
-    EXPECT_EQ(Log(), LogLine("FormatGUID: 0011", 5, "Invalid procedure call"));
+TEST_F(FilterDataTest, AShortGuidIsAFailureAndGivesNoText) {
+    const std::string almost = "00112233445566778899AABBCCDDEEF";
+    EXPECT_EQ(FormatGUID(application, "0011"), "");
+    EXPECT_EQ(FormatGUID(application, almost), "");
+    EXPECT_EQ(Log(), LogLine("FormatGUID: 0011", 5, "Invalid procedure call") +
+                         LogLine("FormatGUID: " + almost, 5, "Invalid procedure call"));
 }
 
 }  // namespace
