@@ -1,5 +1,4 @@
 #include <array>
-#include <array>
 #include <filesystem>
 #include <wx/checkbox.h>
 #include <wx/choice.h>

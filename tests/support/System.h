@@ -39,11 +39,7 @@ constexpr const char* kNoOrdinaryUser = "permissions hold nobody back here";
 
 /// Whether the tests are built with AddressSanitizer, with which everything takes several times as
 /// long.
-#ifdef __SANITIZE_ADDRESS__
-inline constexpr bool kIsSanitized = true;
-#else
-inline constexpr bool kIsSanitized = false;
-#endif
+inline constexpr bool kIsSanitized = MARLO_SANITIZED;
 
 /// Lets no file of this process grow beyond a size, as on a disk that is full, for as long as it
 /// lives.

@@ -16,15 +16,6 @@ namespace {
 
 constexpr uid_t kNobody = 65534;
 
-/// AddressSanitizer takes terabytes of addresses for its own use.
-#ifdef __has_feature  // clang's way of telling
-constexpr bool kHasShadowMemory = __has_feature(address_sanitizer);
-#elif defined(__SANITIZE_ADDRESS__)
-constexpr bool kHasShadowMemory = true;
-#else
-constexpr bool kHasShadowMemory = false;
-#endif
-
 /// The most memory that this process has had so far, in bytes.
 std::size_t PeakMemory() {
     std::ifstream status("/proc/self/status");
@@ -103,7 +94,7 @@ std::size_t MemoryTakenBy(const std::function<void()>& action) {
 }
 
 bool CanLimitMemory() {
-    return !kHasShadowMemory;
+    return !kIsSanitized;  // AddressSanitizer takes terabytes of addresses for its own use
 }
 
 bool HasUnixShell() {

@@ -5,7 +5,7 @@
 
 #include "reports/ResultSearch.h"
 #include "tests/support/ReportTest.h"
-#include "tests/support/linux/PeakMemory.h"
+#include "tests/support/System.h"
 
 namespace marlo {
 namespace {
@@ -28,13 +28,13 @@ TEST_F(LargeResultFileTest, ASearchThrough64MegabytesTakesLessThan16MiB) {
         }
         file << Quoted(project) << ",\"Delay\",\"VST    \",\"On\"\r\n";
     }
-    test::ForgetPeakMemory();
-    const long before = test::PeakMemory();
-    cmdFind_Click(pane, {.mode = search_mode::kProjectsByPlugin,
-                         .txtSearchText = "Delay",
-                         .cboSearchType = match_type::kContains,
-                         .chkIgnoreCase = false});
-    EXPECT_LT(test::PeakMemory() - before, 16 * 1024);
+    const std::size_t taken = test::MemoryTakenBy([&] {
+        cmdFind_Click(pane, {.mode = search_mode::kProjectsByPlugin,
+                             .txtSearchText = "Delay",
+                             .cboSearchType = match_type::kContains,
+                             .chkIgnoreCase = false});
+    });
+    EXPECT_LT(taken, std::size_t{16} * 1024 * 1024);
     EXPECT_EQ(Names(), test::Texts{project});
 }
 
