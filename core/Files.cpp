@@ -67,15 +67,7 @@ void AskCloseFileInUse(const Application& application, MainWindow& window,
 
 StagedFile::StagedFile(const Application& application, MainWindow& window,
                        std::string_view relativePath)
-    : window_(window),
-      path_(ApplicationPath(application, relativePath)),
-      stagingPath_(path_ + ".new") {}
-
-StagedFile::~StagedFile() {
-    std::error_code ignored;
-    if (isStaged_)
-        platform::RemoveFile(stagingPath_, ignored);
-}
+    : window_(window), path_(ApplicationPath(application, relativePath)) {}
 
 /// Makes an attempt, and while that is denied and an old file is there repeats it until the user
 /// cancels.
@@ -98,10 +90,13 @@ bool StagedFile::Try(const Attempt& attempt) {
 }
 
 bool StagedFile::Create() {
-    isStaged_ = Try([&](std::error_code& error) {
-        writer_ = LineWriter(platform::File::OpenExclusively(stagingPath_, error));
+    const std::string stagingPath = path_ + ".new";
+    const bool isCreated = Try([&](std::error_code& error) {
+        writer_ = LineWriter(platform::File::OpenExclusively(stagingPath, error));
     });
-    return isStaged_;
+    if (isCreated)
+        staged_.emplace(stagingPath);
+    return isCreated;
 }
 
 bool StagedFile::MoveIntoPlace() {
@@ -110,10 +105,7 @@ bool StagedFile::MoveIntoPlace() {
 }
 
 bool StagedFile::MoveWhatIsWrittenIntoPlace() {
-    const bool moved =
-        Try([&](std::error_code& error) { platform::MoveIntoPlace(stagingPath_, path_, error); });
-    isStaged_ = !moved;
-    return moved;
+    return Try([&](std::error_code& error) { staged_->MoveTo(path_, error); });
 }
 
 }  // namespace marlo

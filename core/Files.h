@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -8,6 +9,7 @@
 #include "core/Application.h"
 #include "core/LineWriter.h"
 #include "core/MainWindow.h"
+#include "core/StagedPath.h"
 
 namespace marlo {
 
@@ -39,7 +41,7 @@ class StagedFile {
     StagedFile& operator=(const StagedFile&) = delete;
     StagedFile(StagedFile&&) = delete;
     StagedFile& operator=(StagedFile&&) = delete;
-    ~StagedFile();
+    ~StagedFile() = default;
 
     /// Creates the new version. Asks while that is denied, also because another running program
     /// is writing one.
@@ -63,9 +65,8 @@ class StagedFile {
 
     MainWindow& window_;
     std::string path_;
-    std::string stagingPath_;
     LineWriter writer_;
-    bool isStaged_ = false;  ///< there is a new version that is not in place
+    std::optional<StagedPath> staged_;  ///< once there is a new version
 };
 
 }  // namespace marlo

@@ -38,6 +38,10 @@ class File {
     /// While another program has it open so, this fails with `errc::device_or_resource_busy`.
     static File OpenExclusively(const std::string& path, std::error_code& error);
 
+    /// Creates a file for writing, and nothing else: what is there already stays, and is refused as
+    /// `errc::file_exists`, a link, too.
+    static File CreateNew(const std::string& path, std::error_code& error);
+
     /// The file's size in bytes.
     std::uint64_t Size(std::error_code& error) const;
 

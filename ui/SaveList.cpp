@@ -1,11 +1,12 @@
 #include "ui/SaveList.h"
 
+#include <string_view>
 #include <system_error>
 
 #include "core/RunTimeError.h"
+#include "core/StagedPath.h"
 #include "core/Text.h"
 #include "platform/File.h"
-#include "platform/FileSystem.h"
 #include "reports/ListPage.h"
 
 namespace marlo {
@@ -17,22 +18,31 @@ bool IsPage(const std::string& path) {
     return upper.ends_with(".HTML") || upper.ends_with(".HTM");
 }
 
-void Write(const std::string& text, const std::string& path) {
-    const std::string staging = path + ".new";
+/// Creates a file beside `path`, under a name that nothing else has there.
+/// @param staging receives its path.
+platform::File CreateBeside(const std::string& path, std::string& staging) {
     std::error_code error;
-    {
-        auto file = platform::File::OpenExclusively(staging, error);
-        ThrowOnPath(error);
-        file.Write(text, error);
-        if (!error)
-            file.Flush(error);
+    staging = path + ".new";
+    for (int number = 2;; ++number) {
+        auto file = platform::File::CreateNew(staging, error);
+        if (error != std::errc::file_exists) {
+            ThrowOnPath(error);
+            return file;
+        }
+        staging = path + ".new" + std::to_string(number);
     }
-    if (!error)
-        platform::MoveIntoPlace(staging, path, error);
-    if (!error)
-        return;
-    std::error_code ignored;
-    platform::RemoveFile(staging, ignored);
+}
+
+void Write(const std::string& text, const std::string& path) {
+    std::string staging;
+    platform::File file = CreateBeside(path, staging);
+    StagedPath staged(staging);
+    std::error_code error;
+    file.Write(text, error);
+    ThrowOnPath(error);
+    file.Flush(error);
+    ThrowOnPath(error);
+    staged.MoveTo(path, error);
     ThrowOnPath(error);
 }
 
@@ -49,6 +59,14 @@ bool SaveList(const ResultPane& pane, const std::string& title, const std::strin
         pane.window.ShowMessage(
             {.text = "The list cannot be saved as " + path, .icon = MessageIcon::Exclamation});
     return isSaved;
+}
+
+std::string PagePath(const std::string& path) {
+    if (IsPage(path))
+        return path;
+    constexpr std::string_view otherKind = ".CSV";
+    const bool isOtherKind = UpperCaseUtf8(path).ends_with(otherKind);
+    return path.substr(0, path.size() - (isOtherKind ? otherKind.size() : 0)) + ".html";
 }
 
 }  // namespace marlo

@@ -14,4 +14,8 @@ namespace marlo {
 /// @return whether the list was saved.
 bool SaveList(const ResultPane& pane, const std::string& title, const std::string& path);
 
+/// The path that a list is saved to as a page when the user has chosen that kind and then a name of
+/// the other kind, or of none: ".html" takes the place of ".csv", or comes behind the name.
+std::string PagePath(const std::string& path);
+
 }  // namespace marlo

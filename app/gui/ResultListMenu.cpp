@@ -8,13 +8,14 @@
 #include "app/gui/MessageBox.h"
 #include "app/gui/TextConversion.h"
 #include "reports/ListPage.h"
+#include "ui/SaveList.h"
 
 namespace marlo::gui {
 
 namespace {
 
-bool MayReplace(wxWindow* owner, const wxFileName& file) {
-    return ShowMessageBox(owner, {.text = FieldOf(file.GetFullName()) +
+bool MayReplace(wxWindow* owner, const wxString& path) {
+    return ShowMessageBox(owner, {.text = FieldOf(wxFileName(path).GetFullName()) +
                                           " is there already. Do you want to replace it?",
                                   .buttons = MessageButtons::YesNo,
                                   .icon = MessageIcon::Question}) == MessageAnswer::Yes;
@@ -27,16 +28,15 @@ void SaveListAs(wxWindow* owner, Form1& form) {
                         wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
     if (dialog.ShowModal() != wxID_OK)
         return;
-    wxFileName file(dialog.GetPath());
+    const std::string chosen = PathOf(dialog.GetPath());
     // Choosers leave the name alone when the user picks the other kind, and have asked about that
     // name only.
     constexpr int pageFilter = 1;
-    if (dialog.GetFilterIndex() == pageFilter && !file.GetExt().Lower().StartsWith("htm")) {
-        file.SetExt("html");
-        if (file.FileExists() && !MayReplace(owner, file))
-            return;
-    }
-    form.SaveList(PathOf(file.GetFullPath()));
+    const std::string path = dialog.GetFilterIndex() == pageFilter ? PagePath(chosen) : chosen;
+    if (path != chosen && wxFileName::FileExists(ToolkitPath(path)) &&
+        !MayReplace(owner, ToolkitPath(path)))
+        return;
+    form.SaveList(path);
 }
 
 }  // namespace

@@ -109,6 +109,10 @@ std::uint64_t File::Size(std::error_code& error) const {
     return error ? 0 : static_cast<std::uint64_t>(status.st_size);
 }
 
+File File::CreateNew(const std::string& path, std::error_code& error) {
+    return Open(path, {O_WRONLY | O_CREAT | O_EXCL}, error);
+}
+
 std::size_t File::ReadAt(std::uint64_t offset, std::span<unsigned char> buffer,
                          std::error_code& error) const {
     error.clear();

@@ -145,6 +145,13 @@ std::uint64_t File::Size(std::error_code& error) const {
     return static_cast<std::uint64_t>(size.QuadPart);
 }
 
+File File::CreateNew(const std::string& path, std::error_code& error) {
+    File file = Open(path, {GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE, CREATE_NEW}, error);
+    if (error == std::errc::is_a_directory)
+        error = std::make_error_code(std::errc::file_exists);
+    return file;
+}
+
 std::size_t File::ReadAt(std::uint64_t offset, std::span<unsigned char> buffer,
                          std::error_code& error) const {
     error.clear();

@@ -75,6 +75,19 @@ TEST_F(FileTest, AnExclusiveFileIsFreeOnceItIsClosed) {
     EXPECT_FALSE(error);
 }
 
+TEST_F(FileTest, ANewFileIsNoneThatIsThereAlready) {
+    const std::string old = folder.Write("old", "hello");
+    for (const std::string& path : {old, folder.MakeFolder("folder")}) {
+        File::CreateNew(path, error);
+        EXPECT_EQ(error, std::errc::file_exists) << path;
+    }
+    EXPECT_EQ(folder.Read("old"), "hello");
+    auto file = File::CreateNew(folder.Path("new"), error);
+    file.Write("x", error);
+    EXPECT_FALSE(error);
+    EXPECT_EQ(folder.Read("new"), "x");
+}
+
 TEST_F(FileTest, MovingAFileMovesItsHandle) {
     auto first = File::OpenForAppending(folder.Path("a"), error);
     File second;

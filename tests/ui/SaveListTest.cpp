@@ -1,4 +1,7 @@
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -39,6 +42,15 @@ TEST_F(SaveListTest, ANameThatEndsAsAPageGetsAPageWhateverItsCase) {
     }
 }
 
+TEST_F(SaveListTest, OnlyTheOtherKindsEndingMakesWayForThatOfAPage) {
+    EXPECT_EQ(PagePath("/lists/Mix 2.csv"), "/lists/Mix 2.html");
+    EXPECT_EQ(PagePath("/lists/Mix.CSV"), "/lists/Mix.html");
+    EXPECT_EQ(PagePath("/lists/Mix 2.1"), "/lists/Mix 2.1.html");
+    EXPECT_EQ(PagePath("/lists.csv/Mix"), "/lists.csv/Mix.html");
+    for (const std::string page : {"/lists/Mix.html", "/lists/Mix.HTM"})
+        EXPECT_EQ(PagePath(page), page);
+}
+
 TEST_F(SaveListTest, AnOldFileIsReplacedAndNothingIsLeftBeside) {
     folder.Write("old/list.csv", std::string(10000, 'x'));
     EXPECT_TRUE(Save("old/list.csv"));
@@ -63,19 +75,49 @@ TEST_F(SaveListTest, AFolderInTheWayIsToldAndStays) {
     EXPECT_FALSE(folder.Exists("list.csv.new"));
 }
 
-TEST_F(SaveListTest, ADiskThatIsFullLeavesTheOldFile) {
+TEST_F(SaveListTest, FilesThatHappenToHaveTheNamesOfUnfinishedOnesStay) {
+    folder.Write("list.csv.new", "mine");
+    folder.MakeFolder("list.csv.new2");
+    EXPECT_TRUE(Save("list.csv"));
+    EXPECT_EQ(folder.Read("list.csv"), csv);
+    EXPECT_EQ(folder.Read("list.csv.new"), "mine");
+    EXPECT_TRUE(std::filesystem::is_empty(folder.Path("list.csv.new2")));
+    EXPECT_FALSE(folder.Exists("list.csv.new3"));
+}
+
+TEST_F(SaveListTest, ALinkThatLeadsNowhereAndHasTheNameOfAnUnfinishedOneStays) {
+    if (!test::MakeLink("elsewhere", folder.Path("list.csv.new")))
+        GTEST_SKIP() << test::kNoLinks;
+    EXPECT_TRUE(Save("list.csv"));
+    EXPECT_EQ(folder.Read("list.csv"), csv);
+    EXPECT_FALSE(folder.Exists("elsewhere"));
+}
+
+TEST_F(SaveListTest, WhereverTheDiskIsFullTheOldFileStays) {
     if (!test::FileSizeLimit::IsPossible())
         GTEST_SKIP() << test::kNoFileSizeLimit;
-    folder.Write("list.csv", "old");
-    bool isSaved = true;
-    {
-        const test::FileSizeLimit full(10);
-        isSaved = Save("list.csv");
+    for (const std::string name : {"list.csv", "list.html"}) {
+        ASSERT_TRUE(Save(name));
+        const std::size_t size = folder.Read(name).size();
+        folder.Write(name, "old");
+        // The log is not asked: it is on the disk that is full.
+        std::vector<std::int32_t> logged;
+        application.onErrorLogged = [&](const ErrorEntry& entry) {
+            logged.push_back(entry.number);
+        };
+        std::size_t saved = 0;
+        for (std::size_t limit = 0; limit < size; ++limit) {
+            const test::FileSizeLimit full(limit);
+            saved += Save(name) ? 1 : 0;
+            ASSERT_EQ(folder.Read(name), "old") << name << " after " << limit << " bytes";
+            ASSERT_FALSE(folder.Exists(name + ".new")) << name << " after " << limit << " bytes";
+        }
+        EXPECT_EQ(saved, 0U);
+        constexpr std::int32_t diskFull = 61;
+        EXPECT_EQ(logged, std::vector<std::int32_t>(size, diskFull));
+        EXPECT_EQ(window.messages.size(), size);
+        window.messages.clear();
     }
-    EXPECT_FALSE(isSaved);
-    EXPECT_EQ(window.messages.size(), 1U);
-    EXPECT_EQ(folder.Read("list.csv"), "old");
-    EXPECT_FALSE(folder.Exists("list.csv.new"));
 }
 
 }  // namespace
