@@ -10,6 +10,7 @@ namespace marlo::cli {
 namespace {
 
 constexpr std::size_t kGap = 2;
+constexpr int kMostAligned = 200;  // cells
 constexpr const char* kDim = "\x1b[2m";
 constexpr const char* kUsual = "\x1b[0m";
 
@@ -36,7 +37,8 @@ std::vector<int> Table::Widths() const {
     std::vector<int> widths(rows_.front().fields.size());
     for (const Row& row : rows_)
         for (std::size_t i = 0; i < widths.size(); ++i)
-            widths[i] = std::max(widths[i], DisplayWidth(row.fields[i]));
+            if (const int width = DisplayWidth(row.fields[i]); width <= kMostAligned)
+                widths[i] = std::max(widths[i], width);
     return widths;
 }
 
@@ -52,8 +54,8 @@ void Table::Print(std::ostream& out, bool hasColours) const {
     for (const Row& row : rows_) {
         std::string line(GutterOf(row, hasColours));
         for (std::size_t i = 0; i < widths.size(); ++i) {
-            const auto padding = static_cast<std::size_t>(widths[i] - DisplayWidth(row.fields[i]));
-            line.append(row.fields[i]).append(padding + kGap, ' ');
+            const int padding = std::max(widths[i] - DisplayWidth(row.fields[i]), 0);
+            line.append(row.fields[i]).append(static_cast<std::size_t>(padding) + kGap, ' ');
         }
         line.erase(line.find_last_not_of(' ') + 1);
         if (row.isDimmed && hasColours)

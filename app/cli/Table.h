@@ -7,8 +7,9 @@
 
 namespace marlo::cli {
 
-/// A table for a person to read. Columns are aligned by display width; texts are made harmless
-/// (see `Printable`).
+/// A table for a person to read. Columns are aligned by display width, but for texts of more than
+/// 200 cells, behind which a row goes on where it has come to; texts are made harmless (see
+/// `Printable`).
 class Table {
   public:
     /// @param maxColumnWidth in cells; wider texts are cut to it (see `FitToWidth`), except in the

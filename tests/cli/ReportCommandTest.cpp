@@ -61,6 +61,19 @@ TEST_F(ReportCommandTest, TheUsedPluginsAreSortedAndMarkedWhereTheyAreNotInstall
     EXPECT_EQ(result.exitCode, 0);
 }
 
+TEST_F(ReportCommandTest, AnEndlessNameDoesNotMoveTheOtherRows) {
+    const std::string endless(10'000, 'z');
+    const std::string aligned(200, 'y');
+    const std::string blanks = "  ";
+    WriteResult("tln.csv", "\"" + endless + "\",\"VST\",\"On\"\r\n\"" + aligned +
+                               "\",\"VST\",\"On\"\r\n\"DX Echo\",\"DirectX\",\"On\"\r\n");
+    const std::string type = "VST      !Not Installed!  On\n";
+    EXPECT_EQ(Marlo({"report", "used"}).out,
+              "  Used Plugins" + std::string(188, ' ') + "  Type     Path             Status\n" +
+                  "  DX Echo" + std::string(193, ' ') + "  DirectX                   On\n" + "* " +
+                  aligned + blanks + type + "* " + endless + blanks + type + "* not installed\n");
+}
+
 TEST_F(ReportCommandTest, TheUnusedPluginsAreListed) {
     EXPECT_EQ(Marlo({"report", "unused"}).out,
               "Unused Plugins  Type  Path\n"
