@@ -162,12 +162,16 @@ void Form1Window::OnClose(wxCloseEvent& event) {
             form_.Form_Unload();  // the desktop is shutting down, and may not wait for the run
         return;
     }
+    // It is there until all events are handled. A command would outlive it.
+    Disable();
     form_.Form_Unload();
     KeepCopiedRows();
     Destroy();
 }
 
 void Form1Window::OnKey(wxKeyEvent& event) {
+    if (!IsEnabled())
+        return;
     const wxWindow* const focused = FindFocus();
     const bool isInList = focused != nullptr && (focused == controls_.lstSongs ||
                                                  focused->GetParent() == controls_.lstSongs);

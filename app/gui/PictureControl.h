@@ -14,6 +14,12 @@ namespace marlo::gui {
 /// A control on a picture that is clicked, by mouse, Enter or Space, and draws itself.
 class PictureControl : public wxWindow {
   public:
+    PictureControl(const PictureControl&) = delete;
+    PictureControl& operator=(const PictureControl&) = delete;
+    PictureControl(PictureControl&&) = delete;
+    PictureControl& operator=(PictureControl&&) = delete;
+    ~PictureControl() override { LetGo(); }  // the window may close while the button is down
+
     std::function<void()> onClick;
     std::function<void()> onMouseMove;
 

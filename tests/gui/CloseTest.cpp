@@ -34,6 +34,26 @@ TEST_F(CloseTest, GoesWithASelectedRowInTheList) {
     EXPECT_EQ(Log(), "");
 }
 
+TEST_F(CloseTest, AClickThatWasStillToComeRunsNoCommandAnyMore) {
+    Open();
+    auto& about = Item(kAboutItem);
+    Window().wxFrame::Close();
+    for (const wxEventType type : {wxEVT_LEFT_DOWN, wxEVT_LEFT_UP}) {
+        wxMouseEvent event(type);
+        about.HandleWindowEvent(event);
+    }
+    EXPECT_TRUE(test::RunEventsUntil([&] { return !IsWindowOpen(); }));
+}
+
+TEST_F(CloseTest, GoesWhileTheButtonIsDownOnACommand) {
+    Open();
+    MoveTo(Item(kAboutItem));
+    wxUIActionSimulator().MouseDown();
+    EXPECT_TRUE(test::RunEventsUntil([&] { return Item(kAboutItem).HasCapture(); }));
+    CloseWindow();
+    wxUIActionSimulator().MouseUp();
+}
+
 TEST_F(CloseTest, EscapeDoesNotCloseTheWindow) {
     Open();
     Press(WXK_ESCAPE);
