@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "core/Text.h"
+#include "ui/CellText.h"
 
 namespace marlo {
 
@@ -45,7 +46,7 @@ class CharacterWidths {
     /// Many of them are measured, since widths come in whole pixels.
     float Measured(char32_t character) {
         constexpr int count = 20;
-        const std::u32string text(count, character);
+        const std::u32string text(count, IsShownAsBlank(character) ? U' ' : character);
         return static_cast<float>(measure_.WidthOf(EncodeUtf8(text))) / count;
     }
 
@@ -77,7 +78,7 @@ class WidestFew {
         int widest = 0;
         for (const Cell& cell : few_)
             if (!cell.text.empty())
-                widest = std::max(widest, measure.WidthOf(DecodeToUtf8(cell.text)));
+                widest = std::max(widest, measure.WidthOf(CellText(cell.text)));
         return widest;
     }
 
@@ -102,7 +103,7 @@ std::vector<int> WidestCells(const ResultList& list, TextMeasure& measure) {
             const ResultRow row = list.RowAt(position);
             const std::string_view text =
                 column == 1 ? list.Text(row) : list.SubItem(row, column - 1);
-            const float estimate = characters.Estimate(text);
+            const float estimate = characters.Estimate(ShownPart(text));
             if (estimate > widest.Bound())
                 widest.Consider(estimate, text);
         }

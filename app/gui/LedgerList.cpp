@@ -10,6 +10,7 @@
 #include "app/gui/TwipScale.h"
 #include "reports/Ledger.h"
 #include "reports/ResultPane.h"
+#include "ui/CellText.h"
 #include "ui/ColumnFit.h"
 
 namespace marlo::gui {
@@ -23,8 +24,7 @@ constexpr int kCellPadding = 14;    // design pixels
 constexpr int kHeaderPadding = 34;  // the same, with room for the sort arrow
 
 // One hostile name must not push the other columns out of reach.
-constexpr int kMostColumnWidth = 2000;         // design pixels
-constexpr std::size_t kMostCellLength = 1000;  // characters
+constexpr int kMostColumnWidth = 2000;  // design pixels
 
 class DcMeasure final : public TextMeasure {
   public:
@@ -48,6 +48,13 @@ LedgerList::LedgerList(wxWindow* parent, const wxString& name, const ResultList&
       hasHeader_((style & wxLC_NO_HEADER) == 0),
       shownRevision_(rows.Revision() - 1) {
     RemoveLedger();
+    // The toolkit takes it for a fault when a list without room for a row gets a key.
+    Rows().Bind(wxEVT_CHAR, [this](wxKeyEvent& event) {
+        if (GetCountPerPage() > 0)
+            event.Skip();
+        else
+            HandleAsNavigationKey(event);
+    });
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
         event.Skip();
         FollowScreen();
@@ -114,6 +121,7 @@ void LedgerList::AutoSizeColumns() {
             width = std::max(
                 width + DesignPixels(*this, kCellPadding),
                 GetTextExtent(Shown(rows_.Header(column))).x + DesignPixels(*this, kHeaderPadding));
+            width = std::min(width, DesignPixels(*this, kMostColumnWidth));
         }
     }
     for (std::size_t i = 0; i < fittedWidths_.size(); ++i)
@@ -185,18 +193,16 @@ std::size_t LedgerList::ActivePosition() const {
 }
 
 void LedgerList::OnDoubleClick(const std::function<void()>& handler) {
-    // Some systems' list has its rows in a window of their own, and its headers in another.
-    const auto bind = [&](wxWindow* window) {
-        window->Bind(wxEVT_LEFT_DCLICK, [handler](wxMouseEvent& event) {
-            event.Skip();
-            handler();
-        });
-    };
+    Rows().Bind(wxEVT_LEFT_DCLICK, [handler](wxMouseEvent& event) {
+        event.Skip();
+        handler();
+    });
+}
+
+/// Some systems' list has its rows in a window of their own, and its headers in another.
+wxWindow& LedgerList::Rows() {
     const wxWindowList& parts = GetChildren();
-    if (parts.empty())
-        bind(this);
-    else
-        bind(parts.GetFirst()->GetData());
+    return parts.empty() ? *this : *parts.GetFirst()->GetData();
 }
 
 wxString LedgerList::OnGetItemText(long item, long column) const {
@@ -205,8 +211,8 @@ wxString LedgerList::OnGetItemText(long item, long column) const {
     if (position > rows_.RowCount() || column >= rows_.ColumnCount())
         return {};
     const ResultRow row = rows_.RowAt(position);
-    return Shown(
-        std::string(column == 0 ? rows_.Text(row) : rows_.SubItem(row, static_cast<int>(column))));
+    return wxString::FromUTF8(
+        CellText(column == 0 ? rows_.Text(row) : rows_.SubItem(row, static_cast<int>(column))));
 }
 
 wxItemAttr* LedgerList::OnGetItemAttr(long item) const {

@@ -23,7 +23,8 @@ class LedgerList final : public wxListCtrl {
     ///        none.
     void ShowRows(int sortedColumn = 0);
 
-    /// Fits each column to the wider of its header and its cells.
+    /// Fits each column to the wider of its header and its cells, up to a width that no name or
+    /// path needs.
     void AutoSizeColumns();
 
     /// Shades the rows (see reports/Ledger.h), with bands as high as the sizing kind calls for
@@ -45,6 +46,7 @@ class LedgerList final : public wxListCtrl {
     wxItemAttr* OnGetItemAttr(long item) const override;
     int OnGetItemImage(long item) const override;
 
+    wxWindow& Rows();
     void ShowHeaders();
     void ShowSelection();
     void SetRowHeight(int pixels);

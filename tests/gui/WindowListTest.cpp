@@ -124,6 +124,51 @@ TEST_F(ListLookTest, AListOf200000RowsAppears) {
     EXPECT_EQ(Log(), "");
 }
 
+TEST_F(ListLookTest, ANameOf10MegabytesIsCutAndSavedWhole) {
+    const std::string endless(10'000'000, 'W');
+    folder.Write(
+        "resultfiles/installedplugins.csv",
+        "\"VST\",\"Alpha\",\"" + alpha_ + "\"\r\n\"VST\",\"" + endless + "\",\"/w.dll\"\r\n");
+    ShowInstalled();
+    constexpr std::size_t shown = 1000;
+    EXPECT_EQ(Column(0), (Texts{"Alpha", endless.substr(0, shown) + "…"}));
+    EXPECT_LE(List().GetColumnWidth(0), List().FromDIP(2000));
+    Logic().SaveList(folder.Path("list.csv"));
+    EXPECT_NE(folder.Read("list.csv").find("\"" + endless + "\",\"VST\",\"/w.dll\""),
+              std::string::npos);
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(ListLookTest, NoCharacterOfANameReachesOutOfItsCell) {
+    const std::string odd = std::string("A\x1B[2J\u202E\u2028\t") + '\0' + 'z';
+    std::string lines;
+    for (const std::string& name : {odd, std::string("B"), std::string("C"), std::string("D")})
+        lines += "\"VST\",\"" + name + "\",\"/p.dll\"\r\n";
+    folder.Write("resultfiles/installedplugins.csv", lines);
+    ShowInstalled();
+    const auto besideTheName = [&](long row) {
+        wxRect place = test::PlaceOfRow(List(), row);
+        place.x += List().GetColumnWidth(0);
+        place.width = List().GetColumnWidth(1) + List().GetColumnWidth(2);
+        return test::PictureOf(test::RowsOf(List()), place);
+    };
+    ASSERT_EQ(List().GetItemCount(), 4);
+    EXPECT_EQ(test::PlaceOfRow(List(), 0).GetSize(), test::PlaceOfRow(List(), 2).GetSize());
+    EXPECT_TRUE(test::AreEqual(besideTheName(0), besideTheName(2)));
+}
+
+TEST_F(ListLookTest, KeysDoNothingInAListWithoutRoomForARow) {
+    ShowInstalled();
+    ClickRow(0);
+    Window().SetClientSize(Window().GetClientSize().x, 150);
+    ASSERT_TRUE(test::RunEventsUntil([&] { return List().GetCountPerPage() == 0; }));
+    for (const int key : {WXK_PAGEDOWN, WXK_END, WXK_DOWN})
+        Press(key);
+    EXPECT_EQ(List().ActivePosition(), 1U);
+    Press(WXK_TAB);
+    EXPECT_NE(FocusedName(), "lstSongs");
+}
+
 using ListSortTest = WindowListTest;
 
 TEST_F(ListSortTest, AReportComesSortedByName) {
