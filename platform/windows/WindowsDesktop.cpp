@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "platform/windows/ShellIcons.h"
 #include "platform/windows/System.h"
@@ -23,6 +24,25 @@ std::string DescriptionOf(const std::string& name) {
     const DWORD_PTR answer = SHGetFileInfoA(name.c_str(), FILE_ATTRIBUTE_NORMAL, &info, sizeof info,
                                             SHGFI_TYPENAME | SHGFI_USEFILEATTRIBUTES);
     return answer == 0 ? "" : static_cast<const char*>(info.szTypeName);
+}
+
+/// An argument as programs split the command line into words again. Most come through as they are.
+std::string Quoted(const std::string& argument) {
+    if (argument.find_first_of(" \t,;=\"") == std::string::npos)
+        return argument;
+    std::string quoted = "\"";
+    std::size_t backslashes = 0;
+    const auto doubleBackslashes = [&] { quoted.append(std::exchange(backslashes, 0), '\\'); };
+    for (const char c : argument) {
+        if (c == '"') {
+            doubleBackslashes();
+            quoted += '\\';
+        }
+        backslashes = c == '\\' ? backslashes + 1 : 0;
+        quoted += c;
+    }
+    doubleBackslashes();
+    return quoted + '"';
 }
 
 }  // namespace
@@ -53,9 +73,9 @@ int WindowsDesktop::ShellExecute(const ShellRequest& request) const {
     for (const std::string* const text : {&request.file, &request.parameters, &request.folder})
         if (text->find('\0') != std::string::npos)
             return ERROR_FILE_NOT_FOUND;
-    const HINSTANCE answer =
-        ShellExecuteA(nullptr, request.verb.c_str(), request.file.c_str(),
-                      request.parameters.c_str(), request.folder.c_str(), request.showState);
+    const HINSTANCE answer = ShellExecuteA(nullptr, request.verb.c_str(), request.file.c_str(),
+                                           Quoted(request.parameters).c_str(),
+                                           request.folder.c_str(), request.showState);
     return static_cast<int>(reinterpret_cast<INT_PTR>(answer));
 }
 

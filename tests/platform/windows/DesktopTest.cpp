@@ -64,13 +64,31 @@ class ShellTest : public DesktopTest {
     static int Ask(const ShellRequest& request) { return SystemDesktop().ShellExecute(request); }
 };
 
-TEST_F(ShellTest, AProgramIsStartedWithItsParameters) {
-    const std::string source = folder.Write("source", "hello");
-    EXPECT_GT(Ask({.file = "C:\\windows\\system32\\cmd.exe",
-                   .parameters = "/c copy " + source + " " + folder.Path("note"),
-                   .isProgram = true}),
+/// A batch file that copies the file it is given, to "note".
+class CopierTest : public ShellTest {
+  protected:
+    std::string CopyOf(const std::string& path) {
+        const std::string program =
+            folder.Write("copier.cmd", "@copy %1 \"" + folder.Path("note") + "\"\r\n");
+        EXPECT_GT(Ask({.file = program, .parameters = path, .isProgram = true}), kLastShellFailure);
+        return TakeNote();
+    }
+};
+
+TEST_F(CopierTest, AProgramIsStartedWithItsArgument) {
+    EXPECT_EQ(CopyOf(folder.Write("source", "hello")), "hello");
+}
+
+TEST_F(CopierTest, APathWithBlanksAndCommasIsOneArgument) {
+    EXPECT_EQ(CopyOf(folder.Write("my files/a, b;c =d.csv", "hello")), "hello");
+}
+
+TEST_F(ShellTest, ABackslashAtTheEndOfAnArgumentDoesNotHideItsQuote) {
+    const std::string program =
+        folder.Write("teller.cmd", "@echo %1>\"" + folder.Path("note") + "\"\r\n");
+    EXPECT_GT(Ask({.file = program, .parameters = "C:\\my files\\", .isProgram = true}),
               kLastShellFailure);
-    EXPECT_EQ(TakeNote(), "hello");
+    EXPECT_EQ(TakeNote(), "\"C:\\my files\\\\\"\r\n");
 }
 
 TEST_F(ShellTest, AProjectWithAnyNameIsOpenedByTheProgramForProjects) {
