@@ -5,7 +5,8 @@ PACKAGES := packaging/install-packages
 LOGIC    := platform core scan inventory reports dialogs ui app/cli
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-.PHONY: help run build test sanitized test-asan-gui test-windows fuzz fuzzers coverage bench bench-counts bench-windows package package-windows \
+.PHONY: help run build test sanitized test-asan-gui test-windows soak fuzz fuzzers coverage bench \
+	bench-counts bench-windows package package-windows \
 	screenshots pictures format lint clean
 
 help: ## List the targets
@@ -38,6 +39,13 @@ test-asan-gui: ## Run the tests of the window with AddressSanitizer and Undefine
 	@cmake --preset sanitizer --log-level=WARNING
 	@cmake --build --preset asan-gui
 	ctest --preset asan-gui -j 2
+
+soak: ## Let a random user at the window for two minutes, or for SECONDS, with a SEED if given
+	@$(PACKAGES) build
+	@cmake --preset sanitizer --log-level=WARNING
+	@cmake --build --preset sanitizer --target marlo-soak
+	ASAN_OPTIONS=detect_leaks=0 G_SLICE=always-malloc tests/gui/with-display \
+		build/sanitizer/tests/marlo-soak $(or $(SECONDS),120) $(SEED)
 
 test-windows: ## Build for Windows and run every test under Wine
 	@$(PACKAGES) build windows windows64
