@@ -29,9 +29,6 @@ namespace marlo::tools {
 
 namespace {
 
-constexpr int kUsedReport = 3;
-constexpr int kUninstalledReport = 5;
-
 void RunEvents(long milliseconds = 400) {
     const wxStopWatch watch;
     while (watch.Time() < milliseconds) {
@@ -124,8 +121,8 @@ class Session {
 
     void Click(std::size_t item) { window_->Logic().cmdButtons_Click(static_cast<int>(item)); }
 
-    void ShowReport(int item, const std::string& name) {
-        Click(static_cast<std::size_t>(item));
+    void ShowReport(std::size_t item, const std::string& name) {
+        Click(item);
         Take(name);
     }
 
@@ -151,8 +148,7 @@ class Session {
             wxEventLoopBase::GetActive()->YieldFor(wxEVT_CATEGORY_UI);
             photographer_.Take(*window_, name);
         });
-        constexpr std::size_t inventory = 1;
-        Click(inventory);
+        Click(kInventoryItem);
     }
 
     void ShowOptions(const std::string& name) {
@@ -165,8 +161,7 @@ class Session {
                 photographer_.Take(dialog, name + "-" + std::to_string(tab + 1));
             }
         };
-        constexpr std::size_t options = 8;
-        Click(options);
+        Click(kOptionsItem);
     }
 
     void ShowDialogOf(std::size_t item, const std::string& name) {
@@ -201,9 +196,9 @@ void TakeAll(const std::string& freshFolder, const std::string& filledFolder,
     }
     Session filled(filledFolder, photographer);
     filled.Take("main-start");
-    filled.ShowReport(kUsedReport, "main-used");
+    filled.ShowReport(kUsedReportItem, "main-used");
     filled.ShowFocus("main-focus-and-hover");
-    filled.ShowReport(kUninstalledReport, "main-uninstalled");
+    filled.ShowReport(kUninstalledReportItem, "main-uninstalled");
     filled.ShowFound("a", "main-found");
     filled.ShowFound("nowhere", "main-nothing-found");
     filled.ShowRun("main-run");

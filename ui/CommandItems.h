@@ -38,6 +38,13 @@ inline constexpr std::int32_t kCommandItemHeight = 195;
 inline constexpr std::int32_t kCommandItemWidth = 2040;
 
 inline constexpr std::size_t kCommandItemCount = 13;
+inline constexpr std::size_t kInventoryItem = 1;
+inline constexpr std::size_t kUsedReportItem = 3;
+inline constexpr std::size_t kUninstalledReportItem = 5;
+inline constexpr std::size_t kProjectPluginsFileItem = 6;
+inline constexpr std::size_t kInstalledPluginsFileItem = 7;
+inline constexpr std::size_t kOptionsItem = 8;
+inline constexpr std::size_t kHelpItem = 9;
 inline constexpr std::size_t kAboutItem = 10;
 inline constexpr std::size_t kSearchModeItem = 11;
 inline constexpr std::size_t kCancelItem = 12;

@@ -7,8 +7,6 @@
 namespace marlo {
 namespace {
 
-constexpr std::size_t kAbout = 10;
-
 class AboutDialogTest : public test::GuiTest {
   protected:
     AboutDialogTest() { Open(); }
@@ -49,17 +47,17 @@ TEST_F(AboutDialogTest, NamesTheProgramItsVersionAndWhatItIsForFromTheTopDown) {
         EXPECT_TRUE(Find("Image1", &about).IsShownOnScreen());
         Press(WXK_ESCAPE);
     });
-    Click(Item(kAbout));
+    Click(Item(kAboutItem));
 }
 
 TEST_F(AboutDialogTest, EnterClosesIt) {
     dialogs.Handle([&](test::Dialog& /*about*/) { Press(WXK_RETURN); });
-    Click(Item(kAbout));
+    Click(Item(kAboutItem));
 }
 
 TEST_F(AboutDialogTest, AClickOnItsButtonClosesIt) {
     dialogs.Handle([&](test::Dialog& about) { Click(Find("cmdOk", &about.Window())); });
-    Click(Item(kAbout));
+    Click(Item(kAboutItem));
 }
 
 TEST_F(AboutDialogTest, StandsInTheMiddleOfTheWindow) {
@@ -67,7 +65,7 @@ TEST_F(AboutDialogTest, StandsInTheMiddleOfTheWindow) {
         ExpectCentredOverTheWindow(about.Window());
         Press(WXK_ESCAPE);
     });
-    Click(Item(kAbout));
+    Click(Item(kAboutItem));
 }
 
 TEST_F(AboutDialogTest, StandsInTheMiddleOfAWindowThatIsPartlyOffTheScreen) {
@@ -87,7 +85,7 @@ TEST_F(AboutDialogTest, StandsInTheMiddleOfAWindowThatIsPartlyOffTheScreen) {
         ExpectCentredOverTheWindow(about.Window());
         Press(WXK_ESCAPE);
     });
-    Click(Item(kAbout));
+    Click(Item(kAboutItem));
 }
 
 }  // namespace

@@ -4,7 +4,6 @@ namespace marlo {
 namespace {
 
 constexpr int kMinute = 60;
-constexpr std::size_t kAbout = 10;
 
 class DonateTest : public test::GuiTest {
   protected:
@@ -29,12 +28,12 @@ TEST_F(DonateTest, TheMenuPaneThenEndsBelowAbout) {
     constexpr int margin = 10;
     EXPECT_NEAR(MenuBottom(), PlaceOf(Find("btnDonate")).GetBottom() + margin, 1);
     Tick(kMinute);
-    EXPECT_NEAR(MenuBottom(), PlaceOf(Item(kAbout)).GetBottom() + margin, 1);
+    EXPECT_NEAR(MenuBottom(), PlaceOf(Item(kAboutItem)).GetBottom() + margin, 1);
     const wxSize smaller = Window().GetClientSize() - wxSize(50, 50);
     Window().SetClientSize(smaller);
     ASSERT_TRUE(
         test::RunEventsUntil([&] { return PlaceOf(Find("Text1")).GetBottom() == smaller.y - 1; }));
-    EXPECT_NEAR(MenuBottom(), PlaceOf(Item(kAbout)).GetBottom() + margin, 1);
+    EXPECT_NEAR(MenuBottom(), PlaceOf(Item(kAboutItem)).GetBottom() + margin, 1);
 }
 
 TEST_F(DonateTest, TheButtonDoesNotComeBackWithTheCommands) {

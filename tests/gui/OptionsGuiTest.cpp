@@ -1,21 +1,13 @@
 #include "tests/gui/OptionsGuiTest.h"
 
-#include <cstddef>
-
 namespace marlo::test {
-
-namespace {
-
-constexpr std::size_t kOptions = 8;
-
-}  // namespace
 
 void OptionsGuiTest::InOptions(const std::function<void()>& body) {
     dialogs.Handle([this, body](Dialog& dialog) {
         dialog_ = &dialog.Window();
         body();
     });
-    Click(Item(kOptions));
+    Click(Item(kOptionsItem));
 }
 
 void OptionsGuiTest::SelectTab(int tab) {

@@ -6,10 +6,6 @@
 namespace marlo {
 namespace {
 
-constexpr std::size_t kUsesFile = 6;
-constexpr std::size_t kInstalledFile = 7;
-constexpr std::size_t kHelp = 9;
-
 /// What is opened outside of the program: pages, and the result files.
 class PagesTest : public test::GuiTest {
   protected:
@@ -37,14 +33,14 @@ class PagesTest : public test::GuiTest {
 };
 
 TEST_F(PagesTest, HelpOpensItsPage) {
-    Click(Item(kHelp));
+    Click(Item(kHelpItem));
     ExpectRequest("https://marlo.example/2006/10/table-of-contents.html");
 }
 
 TEST_F(PagesTest, AHelpPageThatCannotBeShownIsTold) {
     desktop.shellAnswer = platform::kLastShellFailure;
     ExpectMessage("Cannot show the help file", wxOK);
-    Click(Item(kHelp));
+    Click(Item(kHelpItem));
 }
 
 TEST_F(PagesTest, DonateOpensItsPage) {
@@ -65,26 +61,26 @@ TEST_F(PagesTest, AFailureOfTheDonationPageIsLoggedUnderItsOldName) {
 }
 
 TEST_F(PagesTest, PluginsByProjectOpensInTheChosenProgram) {
-    Click(Item(kUsesFile));
+    Click(Item(kProjectPluginsFileItem));
     ExpectRequest("/bin/sheets", "short:" + folder.Path("resultfiles/fln.csv"));
 }
 
 TEST_F(PagesTest, InstalledPluginsOpenInTheChosenProgram) {
-    Click(Item(kInstalledFile));
+    Click(Item(kInstalledPluginsFileItem));
     ExpectRequest("/bin/sheets", "short:" + folder.Path("resultfiles/installedplugins.csv"));
 }
 
 TEST_F(PagesTest, WithoutAProgramTheUserIsSentToTheOptions) {
     WriteSetting(application, setting::kCsvProgram, "");
     ExpectMessage("You need to select a program to open the file. See the Settings menu.", wxOK);
-    Click(Item(kUsesFile));
+    Click(Item(kProjectPluginsFileItem));
     EXPECT_TRUE(desktop.shellRequests.empty());
 }
 
 TEST_F(PagesTest, AProgramThatCannotBeStartedIsTold) {
     desktop.shellAnswer = platform::kLastShellFailure;
     ExpectMessage("Cannot open the file at the moment", wxOK | wxICON_INFORMATION);
-    Click(Item(kUsesFile));
+    Click(Item(kProjectPluginsFileItem));
 }
 
 }  // namespace
