@@ -1,7 +1,5 @@
 // The four reports and the search over result files with any bytes in them.
 
-#include <array>
-
 #include "core/Settings.h"
 #include "fuzz/Sandbox.h"
 #include "reports/ReportView.h"
@@ -37,12 +35,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         ShowInstalledPlugins(pane, kind);
         LookAtAllCells(pane.lstSongs);
     }
-    constexpr std::array types = {match_type::kExact, match_type::kStartsWith,
-                                  match_type::kEndsWith, match_type::kContains};
     cmdFind_Click(pane, {.mode = (choices & 4U) != 0 ? search_mode::kPluginsInProject
                                                      : search_mode::kProjectsByPlugin,
                          .txtSearchText = parts[3],
-                         .cboSearchType = types.at(choices / 8 % types.size()),
+                         .cboSearchType = kMatchTypes.at(choices / 8 % kMatchTypes.size()),
                          .chkIgnoreCase = (choices & 32U) != 0});
     LookAtAllCells(pane.lstSongs);
     return 0;

@@ -5,6 +5,8 @@
 
 #include "core/RecordReader.h"
 #include "core/RunTimeError.h"
+#include "core/Settings.h"
+#include "core/Text.h"
 #include "inventory/InstalledPlugins.h"
 #include "platform/FileSystem.h"
 #include "reports/DateText.h"
@@ -51,6 +53,16 @@ std::string ModifiedText(const std::string& project) {
 }
 
 }  // namespace
+
+std::size_t ReadMatchType(const Application& application) {
+    const double type = LeadingNumber(getSetting(application, setting::kSearchType));
+    const bool isKnown = type >= 0 && type < static_cast<double>(kMatchTypes.size());
+    return isKnown ? static_cast<std::size_t>(type) : 0;
+}
+
+bool ReadIgnoreCase(const Application& application) {
+    return LeadingNumber(getSetting(application, setting::kIgnoreCase)) == 1;
+}
 
 void SearchResultFiles(ResultPane& pane, const SearchPane& search, std::int16_t typeColumn,
                        std::int16_t statusColumn) {

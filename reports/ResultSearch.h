@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -22,6 +23,13 @@ struct SearchPane {
     std::string cboSearchType = match_type::kExact;
     bool chkIgnoreCase = false;
 };
+
+/// The match type that the settings hold, as a position in `kMatchTypes`; the first one when they
+/// hold none, or one that is not there.
+std::size_t ReadMatchType(const Application& application);
+
+/// Whether the settings hold that searches ignore case.
+bool ReadIgnoreCase(const Application& application);
 
 /// Adds a row to `lstSongs` for each line of "\resultfiles\fln.csv" that the search finds, in their
 /// order: project, date of the project file, plug-in, and type and state unless the settings

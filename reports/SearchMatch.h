@@ -1,18 +1,22 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
 namespace marlo {
 
-/// The ways in which a value can match a search text, as the user picks them, in the order of
-/// their list.
+/// The ways in which a value can match a search text, as the user picks them.
 namespace match_type {
 inline constexpr const char* kExact = "Exact match";
 inline constexpr const char* kStartsWith = "Starts with";
 inline constexpr const char* kEndsWith = "Ends with";
 inline constexpr const char* kContains = "Contains";
 }  // namespace match_type
+
+/// The match types in the order of the user's list; settings hold the position in it.
+inline constexpr std::array<const char*, 4> kMatchTypes = {
+    match_type::kExact, match_type::kStartsWith, match_type::kEndsWith, match_type::kContains};
 
 /// What a search looks for. Fields are compared by their characters (see core/Text.h).
 class SearchMatch {

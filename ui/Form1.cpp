@@ -31,12 +31,6 @@ constexpr int kEnter = 13;
 constexpr const char* kHelpPage = "/2006/10/table-of-contents.html";
 constexpr const char* kDonatePage = "/2006/10/donate.html";
 
-const std::vector<std::string>& SearchTypes() {
-    static const std::vector<std::string> types = {match_type::kExact, match_type::kStartsWith,
-                                                   match_type::kEndsWith, match_type::kContains};
-    return types;
-}
-
 /// A page of a web site, or of one in a folder.
 std::string PageOf(const std::string& site, std::string_view path) {
     if (site.find("://") != std::string::npos)
@@ -91,12 +85,10 @@ void Form1::Form_Load() {
 }
 
 void Form1::LoadSearchControls() {
-    view_.FillSearchTypes(SearchTypes());
-    const auto count = static_cast<double>(SearchTypes().size());
-    const double type = LeadingNumber(getSetting(application_, setting::kSearchType));
+    view_.FillSearchTypes({kMatchTypes.begin(), kMatchTypes.end()});
     // A position that the list does not have comes from a damaged file, and must not end the start.
-    view_.SetSearchType(type >= 0 && type < count ? static_cast<int>(type) : 0);
-    view_.SetIgnoreCase(LeadingNumber(getSetting(application_, setting::kIgnoreCase)) == 1);
+    view_.SetSearchType(static_cast<int>(ReadMatchType(application_)));
+    view_.SetIgnoreCase(ReadIgnoreCase(application_));
 }
 
 void Form1::Form_Resize() {
@@ -223,7 +215,7 @@ SearchPane Form1::CurrentSearch() const {
     const auto type = static_cast<std::size_t>(view_.SearchType());
     return {.mode = state_.cmdbuttons.at(kSearchModeItem).caption,
             .txtSearchText = view_.SearchText(),
-            .cboSearchType = type < SearchTypes().size() ? SearchTypes()[type] : "",
+            .cboSearchType = type < kMatchTypes.size() ? kMatchTypes.at(type) : "",
             .chkIgnoreCase = view_.IgnoreCase()};
 }
 
