@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "core/Text.h"
+#include "reports/ColumnTitles.h"
 #include "reports/ResultPane.h"
 
 namespace marlo {
@@ -127,7 +128,8 @@ std::string Counts(const ResultList& list) {
 void WriteStyleOfShortColumns(std::ostream& page, const ResultList& list) {
     for (int column = 1; column <= list.ColumnCount(); ++column) {
         const std::string& header = list.Header(column);
-        if (header == "Last Modified" || header == "Type" || header == "Status")
+        if (header == column_title::kModified || header == column_title::kType ||
+            header == column_title::kStatus)
             page << "td:nth-child(" << column << ") { white-space: nowrap; }\n";
     }
 }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "reports/ColumnTitles.h"
 #include "reports/PluginReports.h"
 
 namespace marlo {
@@ -32,11 +33,11 @@ OptionalColumns AddColumns(ResultList& list, const std::string& reportKind,
     OptionalColumns columns;
     list.AddColumn(FirstHeader(reportKind));
     if (!ignore.directX)
-        columns.type = list.AddColumn("Type");
+        columns.type = list.AddColumn(column_title::kType);
     if (reportKind != report_kind::kUninstalled)
-        columns.path = list.AddColumn("Path");
+        columns.path = list.AddColumn(column_title::kPath);
     if (isOfUses && !ignore.off)
-        columns.status = list.AddColumn("Status");
+        columns.status = list.AddColumn(column_title::kStatus);
     return columns;
 }
 

@@ -9,6 +9,7 @@
 #include "core/Text.h"
 #include "inventory/InstalledPlugins.h"
 #include "platform/FileSystem.h"
+#include "reports/ColumnTitles.h"
 #include "reports/DateText.h"
 
 namespace marlo {
@@ -27,13 +28,13 @@ struct OptionalColumns {
 
 OptionalColumns AddColumns(ResultList& list, const IgnoreSettings& ignore) {
     OptionalColumns columns;
-    list.AddColumn("Project");
-    list.AddColumn("Last Modified");
-    list.AddColumn("Plugin");
+    list.AddColumn(column_title::kProject);
+    list.AddColumn(column_title::kModified);
+    list.AddColumn(column_title::kPlugin);
     if (!ignore.directX)
-        columns.type = list.AddColumn("Type");
+        columns.type = list.AddColumn(column_title::kType);
     if (!ignore.off)
-        columns.status = list.AddColumn("Status");
+        columns.status = list.AddColumn(column_title::kStatus);
     return columns;
 }
 

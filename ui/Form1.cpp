@@ -8,7 +8,6 @@
 #include "core/ErrorLog.h"
 #include "core/Files.h"
 #include "core/Settings.h"
-#include "core/Text.h"
 #include "inventory/FileAssociation.h"
 #include "inventory/InstalledPlugins.h"
 #include "inventory/VstFolders.h"

@@ -5,13 +5,12 @@
 
 #include "core/Text.h"
 #include "platform/FileSystem.h"
+#include "reports/ColumnTitles.h"
 #include "reports/DateText.h"
 
 namespace marlo {
 
 namespace {
-
-constexpr const char* kDateHeader = "Last Modified";
 
 /// Replaces the second cell of every row.
 template <class Convert>
@@ -48,7 +47,7 @@ void lstSongs_ColumnClick(ResultPane& pane, int column) {
     RunGuarded(pane.application, "lstSongs_ColumnClick", [&] {
         ResultList& list = pane.lstSongs;
         list.SetSortKey(column - 1);
-        const bool isDate = list.Header(column) == kDateHeader;
+        const bool isDate = list.Header(column) == column_title::kModified;
         if (isDate)
             FormatDateColumn(pane);
         if (column == pane.lastSortColumn || pane.lastSortColumn == -1)
@@ -74,10 +73,10 @@ void lstSongs_DblClick(ResultPane& pane) {
         const ResultList& list = pane.lstSongs;
         for (int column = 1; column <= list.ColumnCount(); ++column) {
             const std::string& header = list.Header(column);
-            if (header == "Path")
+            if (header == column_title::kPath)
                 return OpenFolderOf(
                     pane, std::string(TrimSpaces(list.SubItem(list.SelectedRow(), column - 1))));
-            if (header == "Project")
+            if (header == column_title::kProject)
                 return Open(pane, {.file = std::string(list.Text(list.SelectedRow()))});
         }
     });

@@ -9,6 +9,7 @@
 #include "app/cli/Table.h"
 #include "app/cli/TerminalText.h"
 #include "platform/Terminal.h"
+#include "reports/ColumnTitles.h"
 #include "reports/ListPage.h"
 
 namespace marlo::cli {
@@ -17,17 +18,17 @@ namespace {
 
 /// What a column is called in JSON, whatever report it belongs to.
 std::string JsonName(const std::string& header, int column) {
-    if (header == "Project")
+    if (header == column_title::kProject)
         return "project";
-    if (header == "Last Modified")
+    if (header == column_title::kModified)
         return "modified";
-    if (header == "Type")
+    if (header == column_title::kType)
         return "type";
-    if (header == "Path")
+    if (header == column_title::kPath)
         return "path";
-    if (header == "Status")
+    if (header == column_title::kStatus)
         return "state";
-    return column == 1 || header == "Plugin" ? "plugin" : header;
+    return column == 1 || header == column_title::kPlugin ? "plugin" : header;
 }
 
 std::vector<std::string> CellsOf(const ResultList& list, ResultRow row) {
