@@ -34,11 +34,11 @@ inline constexpr std::string_view kApplicationTitle = "Marlo";
 
 /// The full path of a file under the application folder.
 ///
-/// The result folder goes by several spellings ("\resultfiles\", "\Resultfiles\"); on a file system
-/// that tells them apart, the folder is found without regard to case.
+/// The result folder may be spelt in any case here and on the disk, also on a file system that
+/// tells cases apart.
 ///
 /// @param relativePath names joined by "\", with a "\" in front, for example
-///        "\resultfiles\results.csv".
+///        "\resultfiles\results.csv" (see ResultFileNames.h).
 std::string ApplicationPath(const Application& application, std::string_view relativePath);
 
 }  // namespace marlo

@@ -2,6 +2,7 @@
 
 #include <system_error>
 
+#include "core/ResultFileNames.h"
 #include "core/RunTimeError.h"
 #include "platform/File.h"
 
@@ -18,7 +19,7 @@ std::string LogLine(const Application& application, const ErrorEntry& entry) {
 
 void AppendToLog(const Application& application, const std::string& line) {
     std::error_code error;
-    const std::string path = ApplicationPath(application, "\\resultfiles\\errorlog.txt");
+    const std::string path = ApplicationPath(application, result_file::kErrorLog);
     auto log = platform::File::OpenForAppending(path, error);
     if (!error)
         log.Write(line, error);

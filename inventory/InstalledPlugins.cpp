@@ -5,6 +5,7 @@
 #include "core/ErrorLog.h"
 #include "core/Files.h"
 #include "core/LineWriter.h"
+#include "core/ResultFileNames.h"
 #include "core/Settings.h"
 #include "inventory/DirectXPlugins.h"
 #include "inventory/ScanVSTFolder.h"
@@ -13,8 +14,6 @@
 namespace marlo {
 
 namespace {
-
-constexpr const char* kList = "\\Resultfiles\\installedplugins.csv";
 
 /// Scans the folders of the settings until the user cancels.
 void ScanVSTFolders(const Application& application, MainWindow& window, LineWriter& output,
@@ -52,10 +51,10 @@ void RunPart(const Application& application, InventorySummary& summary,
 
 void ReplaceList(const Application& application, MainWindow& window, InventorySummary& summary) {
     MessageAnswer answer = MessageAnswer::None;
-    AskCloseFileInUse(application, window, kList, answer);
+    AskCloseFileInUse(application, window, result_file::kInstalledPlugins, answer);
     if (answer == MessageAnswer::Cancel)
         return;
-    StagedFile list(application, window, kList);
+    StagedFile list(application, window, result_file::kInstalledPlugins);
     if (!list.Create())
         return;
     RunPart(application, summary, [&] { FindPlugins(application, window, list.Lines(), summary); });
@@ -82,7 +81,7 @@ InventorySummary RefreshPlugins(const Application& application, MainWindow& wind
 
 InstalledPlugins::InstalledPlugins(const Application& application)
     : application_(application),
-      list_(application, "\\resultfiles\\installedplugins.csv",
+      list_(application, result_file::kInstalledPlugins,
             [](RecordReader& record, std::string& name) {
                 name = record[1];
                 return true;

@@ -6,6 +6,7 @@
 
 #include "core/RecordIndex.h"
 #include "core/RecordReader.h"
+#include "core/ResultFileNames.h"
 #include "inventory/InstalledPlugins.h"
 
 namespace marlo {
@@ -84,7 +85,7 @@ void AddInstalledPlugins(ResultPane& pane, std::string_view relativePath,
 
 void ShowAllPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pathColumn) {
     RunForUser(pane, "ShowAllPlugins", [&] {
-        AddInstalledPlugins(pane, "\\ResultFiles\\installedplugins.csv",
+        AddInstalledPlugins(pane, result_file::kInstalledPlugins,
                             ReadIgnoreSettings(pane.application), typeColumn, pathColumn,
                             [](const InstalledPlugin& /*plugin*/) { return true; });
     });
@@ -95,8 +96,8 @@ void ShowUsedPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pat
     RunForUser(pane, "ShowUsedPlugins", [&] {
         ResultList& list = pane.lstSongs;
         const IgnoreSettings ignore = ReadIgnoreSettings(pane.application);
-        RecordReader used(pane.application, "\\ResultFiles\\tln.csv", kFieldCount);
-        RecordIndex installed(pane.application, "\\resultfiles\\installedplugins.csv",
+        RecordReader used(pane.application, result_file::kUsedPlugins, kFieldCount);
+        RecordIndex installed(pane.application, result_file::kInstalledPlugins,
                               [](RecordReader& record, std::string& key) {
                                   MakePluginKey(key, record[1], record[0]);
                                   return true;
@@ -132,14 +133,14 @@ void ShowUsedPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pat
 void ShowUnusedPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pathColumn) {
     RunForUser(pane, "ShowUnusedPlugins", [&] {
         const IgnoreSettings ignore = ReadIgnoreSettings(pane.application);
-        RecordIndex used(pane.application, "\\resultfiles\\tln.csv",
+        RecordIndex used(pane.application, result_file::kUsedPlugins,
                          [&](RecordReader& record, std::string& key) {
                              MakePluginKey(key, record[0], record[1]);
                              return !ignore.off || record[2] != "Off";
                          });
         std::string key;
-        AddInstalledPlugins(pane, "\\ResultFiles\\installedplugins.csv", ignore, typeColumn,
-                            pathColumn, [&](const InstalledPlugin& plugin) {
+        AddInstalledPlugins(pane, result_file::kInstalledPlugins, ignore, typeColumn, pathColumn,
+                            [&](const InstalledPlugin& plugin) {
                                 MakePluginKey(key, plugin.name, plugin.type);
                                 return !used.Find(key);
                             });
@@ -151,7 +152,7 @@ void ShowUninstalledPlugins(ResultPane& pane, std::int16_t typeColumn, std::int1
     RunForUser(pane, "ShowUnusedPlugins", [&] {
         ResultList& list = pane.lstSongs;
         const IgnoreSettings ignore = ReadIgnoreSettings(pane.application);
-        RecordReader used(pane.application, "\\resultfiles\\tln.csv", kFieldCount);
+        RecordReader used(pane.application, result_file::kUsedPlugins, kFieldCount);
         InstalledPlugins installed(pane.application);
         UsedPlugin plugin;
         std::string key;

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "core/RecordReader.h"
+#include "core/ResultFileNames.h"
 #include "core/RunTimeError.h"
 #include "core/Settings.h"
 #include "core/Text.h"
@@ -71,7 +72,7 @@ void SearchResultFiles(ResultPane& pane, const SearchPane& search, std::int16_t 
         ResultList& list = pane.lstSongs;
         const IgnoreSettings ignore = ReadIgnoreSettings(pane.application);
         SearchMatch match(search.cboSearchType, search.txtSearchText, search.chkIgnoreCase);
-        RecordReader lines(pane.application, "\\resultfiles\\fln.csv", 4);
+        RecordReader lines(pane.application, result_file::kProjectPlugins, 4);
         InstalledPlugins installed(pane.application);
         std::string key;
         while (lines.Next()) {

@@ -6,6 +6,7 @@
 #include "core/ErrorLog.h"
 #include "core/Files.h"
 #include "core/Records.h"
+#include "core/ResultFileNames.h"
 
 namespace marlo {
 
@@ -13,7 +14,7 @@ namespace {
 
 bool WriteOccurrences(const Application& application, MainWindow& window,
                       const TextList& occurrences) {
-    StagedFile file(application, window, "\\resultfiles\\results.csv");
+    StagedFile file(application, window, result_file::kOccurrences);
     if (!file.Create())
         return false;
     for (const std::string_view occurrence : occurrences)
@@ -41,7 +42,7 @@ MergedStates MergeProjects(const Application& application, const MergedStates& p
         if (fields.empty()) {
             WriteErrorLog(application,
                           "Problem writing " + std::string(key) + ". See " + application.folder +
-                              "\\resultfiles\\errorlog.txt for details.",
+                              result_file::kErrorLog + " for details.",
                           0, "n/a");
             ok = false;
             continue;
@@ -59,10 +60,11 @@ bool CreateResultFiles(const Application& application, MainWindow& window,
     const bool completed = RunGuarded(application, "CreateResultFiles", [&] {
         if (!WriteOccurrences(application, window, lists.PluginOccurrences))
             return;
-        if (!WriteStates(application, window, "\\resultfiles\\fln.csv", lists.ProjectPluginKeys))
+        if (!WriteStates(application, window, result_file::kProjectPlugins,
+                         lists.ProjectPluginKeys))
             return;
         const auto merged = MergeProjects(application, lists.ProjectPluginKeys, ok);
-        WriteStates(application, window, "\\resultfiles\\tln.csv", merged);
+        WriteStates(application, window, result_file::kUsedPlugins, merged);
     });
     return ok && completed;
 }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/ErrorLog.h"
+#include "core/ResultFileNames.h"
 #include "core/Settings.h"
 #include "core/Text.h"
 #include "scan/ProjectDiscovery.h"
@@ -94,7 +95,7 @@ void WriteResults(const Application& application, MainWindow& window, SearchList
     } else {
         summary.outcome = SearchOutcome::Failed;
         window.ShowMessage({.text = "Errors occurred while creating the result files. See " +
-                                    application.folder + "\\resultfiles\\errorlog.txt for details.",
+                                    application.folder + result_file::kErrorLog + " for details.",
                             .icon = MessageIcon::Exclamation});
     }
 }

@@ -7,6 +7,7 @@
 
 #include "core/ErrorLog.h"
 #include "core/Files.h"
+#include "core/ResultFileNames.h"
 #include "core/Settings.h"
 #include "inventory/FileAssociation.h"
 #include "inventory/InstalledPlugins.h"
@@ -335,8 +336,8 @@ void Form1::DisableButtons() {
 }
 
 bool Form1::HasAllResultFiles() const {
-    constexpr std::array files = {"\\resultfiles\\results.csv", "\\resultfiles\\fln.csv",
-                                  "\\resultfiles\\tln.csv", "\\resultfiles\\installedplugins.csv"};
+    constexpr std::array files = {result_file::kOccurrences, result_file::kProjectPlugins,
+                                  result_file::kUsedPlugins, result_file::kInstalledPlugins};
     return std::all_of(files.begin(), files.end(), [&](const char* file) {
         return FileExists(application_, ApplicationPath(application_, file));
     });
