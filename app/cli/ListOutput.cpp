@@ -32,9 +32,9 @@ std::string JsonName(const std::string& header, int column) {
 }
 
 std::vector<std::string> CellsOf(const ResultList& list, ResultRow row) {
-    std::vector<std::string> cells = {std::string(list.Text(row))};
-    for (int subItem = 1; subItem < list.ColumnCount(); ++subItem)
-        cells.emplace_back(list.SubItem(row, subItem));
+    std::vector<std::string> cells;
+    for (int column = 1; column <= list.ColumnCount(); ++column)
+        cells.emplace_back(list.CellText(row, column));
     return cells;
 }
 
