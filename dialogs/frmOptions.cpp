@@ -51,14 +51,6 @@ std::vector<std::string> TextsOf(const ResultList& paths) {
     return texts;
 }
 
-std::size_t SelectedPosition(const ResultList& paths) {
-    const ResultRow selected = paths.SelectedRow();
-    std::size_t position = 1;
-    while (paths.RowAt(position) != selected)
-        ++position;
-    return position;
-}
-
 bool IsChecked(const Application& application, std::int16_t record) {
     return LeadingNumber(getSetting(application, record)) == 1;
 }
@@ -141,7 +133,9 @@ void frmOptions::cmdRemove_Click() {
     const bool completed = RunGuarded(application_, "frmOptions:cmdRemove_Click", [&] {
         if (state_.LstPaths.RowCount() == 0)
             return;
-        const std::size_t position = SelectedPosition(state_.LstPaths);
+        const std::size_t position = state_.LstPaths.SelectedPosition();
+        if (position == 0)
+            throw RunTimeError(ErrorNumber::ObjectNotSet);
         auto folders = TextsOf(state_.LstPaths);
         folders.erase(folders.begin() + static_cast<std::ptrdiff_t>(position - 1));
         ResultList remaining = EmptyPaths();
