@@ -8,9 +8,9 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Program.h"
+#include "tests/support/Projects.h"
 #include "tests/support/System.h"
 #include "tests/support/TempFolder.h"
-#include "tools/ProjectWriter.h"
 
 namespace marlo::test {
 
@@ -46,10 +46,7 @@ class CliTest : public testing::Test {
     /// Writes a project into "songs". @return its path.
     std::string AddProject(const std::string& name,
                            const std::vector<tools::PluginSlot>& slots) const {
-        std::string bytes(100, '\0');
-        for (const auto& slot : slots)
-            bytes += tools::PluginBytes(slot);
-        return folder.Write("songs/" + name, bytes);
+        return test::AddProject(folder, name, slots);
     }
 
     /// Writes a project that cannot be scanned. @return its path.

@@ -1,5 +1,4 @@
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -10,6 +9,7 @@
 #include "core/Files.h"
 #include "core/RunTimeError.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/FailureOf.h"
 #include "tests/support/HeldFiles.h"
 #include "tests/support/System.h"
 
@@ -18,6 +18,7 @@ namespace {
 
 using std::filesystem::permissions;
 using std::filesystem::perms;
+using test::FailureOf;
 
 constexpr const char* kResults = "\\resultfiles\\results.csv";
 
@@ -35,16 +36,6 @@ class FilesTest : public test::ApplicationTest {
                " is being used by another program. Close that program and click Ok to continue";
     }
 };
-
-/// The number of the failure that `body` ends with.
-ErrorNumber FailureOf(const std::function<void()>& body) {
-    try {
-        body();
-    } catch (const RunTimeError& failure) {
-        return failure.Number();
-    }
-    return ErrorNumber::None;
-}
 
 /// The old file is held by another program.
 class HeldFileTest : public FilesTest {

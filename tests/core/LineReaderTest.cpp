@@ -8,6 +8,7 @@
 
 #include "core/LineReader.h"
 #include "core/RunTimeError.h"
+#include "tests/support/FailureOf.h"
 #include "tests/support/System.h"
 #include "tests/support/TempFolder.h"
 
@@ -26,13 +27,8 @@ class LineReaderTest : public testing::Test {
         return lines;
     }
 
-    static ErrorNumber FailureOf(const std::string& path) {
-        try {
-            LineReader reader(path);
-        } catch (const RunTimeError& failure) {
-            return failure.Number();
-        }
-        return ErrorNumber::None;
+    static ErrorNumber FailureToOpen(const std::string& path) {
+        return test::FailureOf([&] { const LineReader reader(path); });
     }
 
     test::TempFolder folder;
@@ -78,8 +74,8 @@ TEST_F(LineReaderTest, ALineWithoutEndDoesNotTakeAllMemory) {
 }
 
 TEST_F(LineReaderTest, AMissingFileOrAFolderIsAFailure) {
-    EXPECT_EQ(FailureOf(folder.Path("gone")), ErrorNumber::FileNotFound);
-    EXPECT_EQ(FailureOf(folder.Path()), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(FailureToOpen(folder.Path("gone")), ErrorNumber::FileNotFound);
+    EXPECT_EQ(FailureToOpen(folder.Path()), ErrorNumber::PathFileAccess);
 }
 
 }  // namespace

@@ -26,15 +26,6 @@ std::string SelectedFolder(const ResultList& paths) {
 
 }  // namespace
 
-std::optional<std::string> FakeFolderChooser::ChooseFolder(const FolderRequest& request) {
-    requests.push_back(request);
-    if (failure)
-        std::rethrow_exception(failure);
-    if (onShow)
-        onShow(request);
-    return answer;
-}
-
 bool FakeFileChooser::GetOpenFileName(OpenFileName& record) {
     records.push_back(record);
     if (failure)
@@ -50,15 +41,6 @@ void FakeFileChooser::Choose(const std::string& path) {
         record.file.replace(0, path.size() + 1, path.c_str(), path.size() + 1);
         record.fileTitle = std::filesystem::path(path).filename().string();
     };
-}
-
-void FakePictureBox::Clear() {
-    Call(onClear);
-    events.emplace_back("Clear");
-}
-
-void FakePictureBox::Draw(const platform::ShellIcon& icon) {
-    events.push_back("Draw " + icon.name);
 }
 
 void PrintTo(const ShownOptions& shown, std::ostream* out) {

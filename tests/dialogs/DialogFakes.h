@@ -5,32 +5,17 @@
 #include <exception>
 #include <functional>
 #include <iosfwd>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/MainWindow.h"
 #include "core/Settings.h"
 #include "dialogs/FileBrowser.h"
-#include "dialogs/FolderBrowser.h"
-#include "dialogs/GetIcons.h"
 #include "dialogs/frmOptions.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/FakeControls.h"
 
 namespace marlo::test {
-
-class FakeFolderChooser final : public FolderChooser {
-  public:
-    std::optional<std::string> ChooseFolder(const FolderRequest& request) override;
-
-    std::vector<FolderRequest> requests;
-    /// What the user chooses; nothing for a cancel.
-    std::optional<std::string> answer;
-    /// Called while the picker is shown, so that a test can do what happens in it.
-    std::function<void(const FolderRequest&)> onShow;
-    /// Thrown, if set.
-    std::exception_ptr failure;
-};
 
 class FakeFileChooser final : public FileChooser {
   public:
@@ -46,17 +31,6 @@ class FakeFileChooser final : public FileChooser {
     std::function<void(OpenFileName&)> answer;
     /// Thrown, if set.
     std::exception_ptr failure;
-};
-
-/// A box that writes down what it is asked: "Clear", "Draw <icon>".
-class FakePictureBox final : public PictureBox {
-  public:
-    void Clear() override;
-    void Draw(const platform::ShellIcon& icon) override;
-
-    std::vector<std::string> events;
-    /// Called before it is cleared, so that a test can look around.
-    std::function<void()> onClear;
 };
 
 /// What the Options dialog shows.

@@ -6,7 +6,7 @@
 #include <wx/clipbrd.h>
 
 #include "core/Settings.h"
-#include "tools/ProjectWriter.h"
+#include "tests/support/Projects.h"
 
 namespace marlo::test {
 
@@ -171,8 +171,7 @@ void GuiTest::WriteResultFiles() const {
 }
 
 std::string GuiTest::AddProject(const std::string& name, const std::string& plugin) const {
-    return folder.Write("songs/" + name,
-                        std::string(100, '\0') + tools::PluginBytes({.name = plugin}));
+    return test::AddProject(folder, name, {{.name = plugin}});
 }
 
 }  // namespace marlo::test

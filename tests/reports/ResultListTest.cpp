@@ -2,25 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include "core/RunTimeError.h"
 #include "reports/ResultList.h"
+#include "tests/support/FailureOf.h"
 #include "tests/support/ReportTest.h"
 
 namespace marlo {
 namespace {
 
+using test::FailureOf;
 using test::Texts;
-
-/// The number of the failure that `action` throws.
-template <class Action>
-ErrorNumber FailureOf(Action action) {
-    try {
-        action();
-    } catch (const RunTimeError& failure) {
-        return failure.Number();
-    }
-    return ErrorNumber::None;
-}
 
 class ResultListTest : public testing::Test {
   protected:

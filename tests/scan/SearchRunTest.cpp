@@ -8,7 +8,7 @@
 #include "scan/SearchRun.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/HeldFiles.h"
-#include "tools/ProjectWriter.h"
+#include "tests/support/Projects.h"
 
 namespace marlo {
 namespace {
@@ -29,8 +29,7 @@ class SearchRunTest : public test::ApplicationTest {
 
     /// Adds a project that uses one plug-in. @return its path.
     std::string AddProject(const std::string& name, const std::string& plugin) const {
-        return folder.Write("songs/" + name,
-                            std::string(100, '\0') + tools::PluginBytes({.name = plugin}));
+        return test::AddProject(folder, name, {{.name = plugin}});
     }
 
     /// Presses Cancel when events run for the `time`-th time.

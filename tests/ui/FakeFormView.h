@@ -3,35 +3,14 @@
 #include <array>
 #include <deque>
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/RunTimeError.h"
+#include "tests/support/FakeControls.h"
 #include "ui/FormView.h"
 
 namespace marlo::test {
-
-/// A box that notes what is drawn in it: "Clear", "Draw <icon>".
-class FakePictureBox final : public PictureBox {
-  public:
-    void Clear() override { events.emplace_back("Clear"); }
-    void Draw(const platform::ShellIcon& icon) override { events.push_back("Draw " + icon.name); }
-
-    std::vector<std::string> events;
-};
-
-/// A folder picker that answers at once.
-class FakeFolderChooser final : public FolderChooser {
-  public:
-    std::optional<std::string> ChooseFolder(const FolderRequest& request) override {
-        requests.push_back(request);
-        return answer;
-    }
-
-    std::optional<std::string> answer;
-    std::vector<FolderRequest> requests;
-};
 
 /// A main window without a screen. `events` has a line for each thing asked of it that a person
 /// would see happen; what it shows is in the members.

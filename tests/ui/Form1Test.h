@@ -4,9 +4,9 @@
 #include <set>
 #include <string>
 
+#include "tests/support/Projects.h"
 #include "tests/support/ReportTest.h"
 #include "tests/ui/FakeFormView.h"
-#include "tools/ProjectWriter.h"
 #include "ui/Form1.h"
 
 namespace marlo::test {
@@ -45,8 +45,7 @@ class Form1Test : public ReportTest {
     }
 
     void AddProject(const std::string& name) const {
-        folder.Write("songs/" + name,
-                     std::string(100, '\0') + tools::PluginBytes({.name = "Reverb"}));
+        test::AddProject(folder, name, {{.name = "Reverb"}});
     }
 
     FakeFormView view;

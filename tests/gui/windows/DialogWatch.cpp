@@ -1,29 +1,20 @@
 #include "tests/gui/DialogWatch.h"
 
-#include <array>
 #include <set>
-#include <string_view>
 #include <utility>
 #include <wx/modalhook.h>
 #include <wx/msw/private.h>
 
 #include "tests/gui/Events.h"
 #include "tests/gui/windows/NativeDialog.h"
+#include "tests/support/windows/SystemDialog.h"
 
 namespace marlo::test {
 
 namespace {
 
-bool IsDialog(HWND window) {
-    constexpr std::wstring_view dialogClass = L"#32770";
-    std::array<wchar_t, 16> name{};
-    GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-    return name.data() == dialogClass;
-}
-
 BOOL CALLBACK TakeNativeDialog(HWND window, LPARAM dialogs) {
-    if (IsDialog(window) && IsWindowVisible(window) != FALSE &&
-        wxFindWinFromHandle(window) == nullptr)
+    if (IsShownDialog(window) && wxFindWinFromHandle(window) == nullptr)
         reinterpret_cast<std::set<HWND>*>(dialogs)->insert(window);
     return TRUE;
 }

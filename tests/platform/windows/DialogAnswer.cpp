@@ -1,8 +1,9 @@
 #include "tests/platform/windows/DialogAnswer.h"
 
 #include <array>
-#include <string_view>
 #include <utility>
+
+#include "tests/support/windows/SystemDialog.h"
 
 namespace marlo::test {
 
@@ -12,10 +13,7 @@ namespace {
 DialogAnswer* current = nullptr;
 
 BOOL CALLBACK TakeDialog(HWND window, LPARAM found) {
-    constexpr std::string_view dialogClass = "#32770";
-    std::array<char, 16> name{};
-    GetClassNameA(window, name.data(), static_cast<int>(name.size()));
-    if (name.data() != dialogClass || IsWindowVisible(window) == FALSE)
+    if (!IsShownDialog(window))
         return TRUE;
     *reinterpret_cast<HWND*>(found) = window;
     return FALSE;
