@@ -55,6 +55,31 @@ struct UsedPlugin {
     }
 };
 
+/// The key of a record of installedplugins.csv.
+bool MakeInstalledKey(RecordReader& record, std::string& key) {
+    MakePluginKey(key, record[1], record[0]);
+    return true;
+}
+
+/// What tells the rows of used plug-ins apart.
+void MakeUseKey(std::string& key, const UsedPlugin& plugin,
+                std::optional<std::string_view> installedPath) {
+    key.assign(plugin.name).append(plugin.type);
+    if (installedPath)
+        key.append(*installedPath);
+    key.append(plugin.state);
+}
+
+/// Tells of a used plug-in where it is installed.
+/// @param installedPath nothing for one that is not.
+void ShowWhereInstalled(ResultList& list, ResultRow row, std::int16_t pathColumn,
+                        const UsedPlugin& plugin, std::optional<std::string_view> installedPath) {
+    if (!installedPath)
+        list.SetSubItem(row, pathColumn - 1, "!Not Installed!");
+    else if (plugin.type == "VST")
+        list.SetSubItem(row, pathColumn - 1, *installedPath);
+}
+
 /// Adds a row for each installed plug-in that the settings do not ignore and that `isWanted` says
 /// yes to.
 template <class Predicate>
@@ -97,30 +122,20 @@ void ShowUsedPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pat
         ResultList& list = pane.lstSongs;
         const IgnoreSettings ignore = ReadIgnoreSettings(pane.application);
         RecordReader used(pane.application, result_file::kUsedPlugins, kFieldCount);
-        RecordIndex installed(pane.application, result_file::kInstalledPlugins,
-                              [](RecordReader& record, std::string& key) {
-                                  MakePluginKey(key, record[1], record[0]);
-                                  return true;
-                              });
+        RecordIndex installed(pane.application, result_file::kInstalledPlugins, MakeInstalledKey);
         UsedPlugin plugin;
         std::string key;
         while (used.Next()) {
             plugin.Read(used);
             MakePluginKey(key, plugin.name, plugin.type);
             const auto installedPath = installed.Find(key);
-            key.assign(plugin.name).append(plugin.type);
-            if (installedPath)
-                key.append(*installedPath);
-            key.append(plugin.state);
+            MakeUseKey(key, plugin, installedPath);
             const auto row = AddPlugin(list, key, plugin.name);
             if (!row)
                 continue;
             if (!ignore.directX)
                 list.SetSubItem(*row, typeColumn - 1, plugin.type);
-            if (!installedPath)
-                list.SetSubItem(*row, pathColumn - 1, "!Not Installed!");
-            else if (plugin.type == "VST")
-                list.SetSubItem(*row, pathColumn - 1, *installedPath);
+            ShowWhereInstalled(list, *row, pathColumn, plugin, installedPath);
             if (!ignore.off)
                 list.SetSubItem(*row, statusColumn - 1, plugin.state);
             if (!installedPath)

@@ -10,7 +10,6 @@
 #include "app/gui/Pictures.h"
 #include "app/gui/TextConversion.h"
 #include "app/gui/TwipScale.h"
-#include "dialogs/frmAbout.h"
 
 namespace marlo::gui {
 
@@ -29,53 +28,72 @@ AboutDialog::AboutDialog(wxWindow* mainWindow, const std::string& picture) {
                                       .revision = MARLO_VERSION_REVISION});
     Create(mainWindow, wxID_ANY, Shown(about.caption), wxDefaultPosition, wxDefaultSize,
            wxDEFAULT_DIALOG_STYLE, "frmAbout");
-    const auto pixels = [this](int length) { return DesignPixels(*this, length); };
+    auto* const texts = CreateTexts(about);
+    auto* const row = new wxBoxSizer(wxHORIZONTAL);
+    AddPicture(row, picture);
+    row->Add(texts, wxSizerFlags(1).CentreVertical());
+    auto* const ok = CreateOkButton();
+    auto* const all = new wxBoxSizer(wxVERTICAL);
+    all->Add(row, wxSizerFlags(1).Expand().Border(wxALL, Pixels(20)));
+    all->Add(new wxStaticLine(this), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, Pixels(20)));
+    all->Add(ok, wxSizerFlags().Right().Border(wxALL, Pixels(16)));
+    SetSizerAndFit(all);
+    CentreOverWindow(*mainWindow);
+    ok->SetFocus();
+}
+
+int AboutDialog::Pixels(int designPixels) const {
+    return DesignPixels(*this, designPixels);
+}
+
+wxSizer* AboutDialog::CreateTexts(const frmAbout& about) {
     const auto label = [this](const std::string& text, const char* name) {
         return new wxStaticText(this, wxID_ANY, Shown(text), wxDefaultPosition, wxDefaultSize, 0,
                                 name);
     };
-
     auto* const title = label(about.lblTitle, "lblTitle");
     title->SetFont(GetFont().Bold().Scaled(1.8F));
     auto* const version = label(about.lblVersion, "lblVersion");
     auto* const description = label(about.lblDescription, "lblDescription");
-    description->Wrap(pixels(300));
-
+    description->Wrap(Pixels(300));
     auto* const texts = new wxBoxSizer(wxVERTICAL);
     texts->Add(title);
-    texts->Add(version, wxSizerFlags().Border(wxTOP, pixels(4)));
-    texts->Add(description, wxSizerFlags().Border(wxTOP, pixels(12)));
-    auto* const row = new wxBoxSizer(wxHORIZONTAL);
-    const auto load = [this, picture] {
-        const int side = DesignPixels(*this, 96);
-        return LoadPicture(*this, picture, wxSize(side, side));
+    texts->Add(version, wxSizerFlags().Border(wxTOP, Pixels(4)));
+    texts->Add(description, wxSizerFlags().Border(wxTOP, Pixels(12)));
+    return texts;
+}
+
+/// Adds the decorative picture to the left of the texts, if it is there; on a screen of another
+/// resolution it is loaded again.
+void AboutDialog::AddPicture(wxSizer* row, const std::string& path) {
+    const auto load = [this, path] {
+        const int side = Pixels(96);
+        return LoadPicture(*this, path, wxSize(side, side));
     };
     const wxBitmap image = load();
-    if (image.IsOk()) {
-        auto* const shown = new wxStaticBitmap(this, wxID_ANY, image, wxDefaultPosition,
-                                               wxDefaultSize, 0, "Image1");
-        row->Add(shown, wxSizerFlags().CentreVertical().Border(wxRIGHT, pixels(20)));
-        Bind(wxEVT_DPI_CHANGED, [=, this](wxDPIChangedEvent& event) {
-            event.Skip();
-            shown->SetBitmap(load());
-        });
-    }
-    row->Add(texts, wxSizerFlags(1).CentreVertical());
+    if (!image.IsOk())
+        return;
+    auto* const shown =
+        new wxStaticBitmap(this, wxID_ANY, image, wxDefaultPosition, wxDefaultSize, 0, "Image1");
+    row->Add(shown, wxSizerFlags().CentreVertical().Border(wxRIGHT, Pixels(20)));
+    Bind(wxEVT_DPI_CHANGED, [=](wxDPIChangedEvent& event) {
+        event.Skip();
+        shown->SetBitmap(load());
+    });
+}
 
+wxButton* AboutDialog::CreateOkButton() {
     auto* const ok = new wxButton(this, wxID_OK, "OK", wxDefaultPosition, wxDefaultSize, 0,
                                   wxDefaultValidator, "cmdOk");
     ok->SetDefault();
     SetEscapeId(wxID_OK);
-    auto* const all = new wxBoxSizer(wxVERTICAL);
-    all->Add(row, wxSizerFlags(1).Expand().Border(wxALL, pixels(20)));
-    all->Add(new wxStaticLine(this), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, pixels(20)));
-    all->Add(ok, wxSizerFlags().Right().Border(wxALL, pixels(16)));
-    SetSizerAndFit(all);
+    return ok;
+}
 
-    const WindowPlace place = CentredOver(PlaceOf(mainWindow->GetRect()), PlaceOf(GetRect()));
+void AboutDialog::CentreOverWindow(const wxWindow& mainWindow) {
+    const WindowPlace place = CentredOver(PlaceOf(mainWindow.GetRect()), PlaceOf(GetRect()));
     SetPosition(
         {static_cast<int>(std::lround(place.left)), static_cast<int>(std::lround(place.top))});
-    ok->SetFocus();
 }
 
 }  // namespace marlo::gui

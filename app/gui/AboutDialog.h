@@ -3,6 +3,10 @@
 #include <string>
 #include <wx/dialog.h>
 
+#include "dialogs/frmAbout.h"
+
+class wxButton;
+
 namespace marlo::gui {
 
 /// The About box, centred over the main window.
@@ -10,6 +14,13 @@ class AboutDialog final : public wxDialog {
   public:
     /// @param picture the path of the decorative picture.
     AboutDialog(wxWindow* mainWindow, const std::string& picture);
+
+  private:
+    wxSizer* CreateTexts(const frmAbout& about);
+    void AddPicture(wxSizer* row, const std::string& path);
+    wxButton* CreateOkButton();
+    void CentreOverWindow(const wxWindow& mainWindow);
+    int Pixels(int designPixels) const;
 };
 
 }  // namespace marlo::gui

@@ -65,6 +65,14 @@ void Form1Window::FollowScreen() {
 }
 
 void Form1Window::BindEvents() {
+    BindWindowEvents();
+    BindTimers();
+    BindMouseMoves();
+    BindCommands();
+    BindListEvents();
+}
+
+void Form1Window::BindWindowEvents() {
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
         event.Skip();  // then the window gets its new size
         FollowScreen();
@@ -73,15 +81,6 @@ void Form1Window::BindEvents() {
         event.Skip();
         form_.Form_Resize();
     });
-    Bind(
-        wxEVT_TIMER, [this](wxTimerEvent&) { form_.Timer1_Timer(); }, timer1_.GetId());
-    Bind(
-        wxEVT_TIMER,
-        [this](wxTimerEvent&) {
-            for (const auto& action : std::exchange(later_, {}))
-                action();
-        },
-        laterTimer_.GetId());
     Bind(wxEVT_ICONIZE, [this](wxIconizeEvent& event) {
         event.Skip();
         form_.Form_Resize();  // which leaves a minimised window alone
@@ -97,6 +96,21 @@ void Form1Window::BindEvents() {
         RenewTheme();
         controls_.ApplyTheme();
     });
+}
+
+void Form1Window::BindTimers() {
+    Bind(
+        wxEVT_TIMER, [this](wxTimerEvent&) { form_.Timer1_Timer(); }, timer1_.GetId());
+    Bind(
+        wxEVT_TIMER,
+        [this](wxTimerEvent&) {
+            for (const auto& action : std::exchange(later_, {}))
+                action();
+        },
+        laterTimer_.GetId());
+}
+
+void Form1Window::BindMouseMoves() {
     const auto onMotion = [](wxWindow* window, auto handler) {
         window->Bind(wxEVT_MOTION, [handler](wxMouseEvent& event) {
             event.Skip();
@@ -106,16 +120,19 @@ void Form1Window::BindEvents() {
     onMotion(controls_.background, [this] { form_.Form_MouseMove(); });
     onMotion(controls_.imgMenu, [this] { form_.imgMenu_MouseMove(); });
     onMotion(controls_.imgRightPane, [this] { form_.imgRightPane_MouseMove(); });
-    for (std::size_t i = 0; i < kCommandItemCount; ++i) {
-        CommandItemControl& item = *controls_.cmdbuttons.at(i);
-        item.onClick = [this, i] { form_.cmdButtons_Click(static_cast<int>(i)); };
-        item.onMouseMove = [this, i] { form_.cmdbuttons_MouseMove(i); };
-    }
+    for (std::size_t i = 0; i < kCommandItemCount; ++i)
+        controls_.cmdbuttons.at(i)->onMouseMove = [this, i] { form_.cmdbuttons_MouseMove(i); };
+}
+
+void Form1Window::BindCommands() {
+    for (std::size_t i = 0; i < kCommandItemCount; ++i)
+        controls_.cmdbuttons.at(i)->onClick = [this, i] {
+            form_.cmdButtons_Click(static_cast<int>(i));
+        };
     controls_.btnDonate->onClick = [this] { form_.btnDonate_Click(); };
     controls_.cmdFind->onClick = [this] { form_.cmdFind_Click(); };
     controls_.txtSearchText->Bind(wxEVT_TEXT_ENTER,
                                   [this](wxCommandEvent&) { form_.txtSearchText_KeyPress('\r'); });
-    BindListEvents();
 }
 
 void Form1Window::BindListEvents() {

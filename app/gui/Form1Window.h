@@ -64,6 +64,10 @@ class Form1Window final : public wxFrame, private FormView {
 
     void FollowScreen();
     void BindEvents();
+    void BindWindowEvents();
+    void BindTimers();
+    void BindMouseMoves();
+    void BindCommands();
     void BindListEvents();
     void ShowListMenu();
     void SelectActiveRow();

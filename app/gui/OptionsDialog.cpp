@@ -38,6 +38,12 @@ wxCheckBox* CreateCheckBox(wxWindow* parent, const char* name, const char* capti
                           wxDefaultValidator, name);
 }
 
+wxStaticBoxSizer* CreateFrame(wxWindow* page, const char* name, const char* caption) {
+    auto* const frame = new wxStaticBoxSizer(wxVERTICAL, page, caption);
+    frame->GetStaticBox()->SetName(name);
+    return frame;
+}
+
 void ShowText(wxStaticText* label, const std::string& text) {
     if (label->GetLabelText() != Shown(text))
         label->SetLabelText(Shown(text));
@@ -125,8 +131,7 @@ wxWindow* OptionsDialog::CreateGeneralTab() {
     auto* const page = CreatePage(tabs_);
     chkIgnoreDX_ = CreateCheckBox(page, "chkIgnoreDX", "Ignore DirectX Plugins");
     chkIgnoreOff_ = CreateCheckBox(page, "chkIgnoreOff", "Ignore Plugins that are turned off");
-    auto* const note = new wxStaticBoxSizer(wxVERTICAL, page, "Note");
-    note->GetStaticBox()->SetName("Frame4");
+    auto* const note = CreateFrame(page, "Frame4", "Note");
     label2_ = CreateLabel(note->GetStaticBox(), "Label2");
     note->Add(label2_, wxSizerFlags().Expand().Border(wxALL, Pixels(8)));
     auto* const all = new wxBoxSizer(wxVERTICAL);
@@ -139,38 +144,48 @@ wxWindow* OptionsDialog::CreateGeneralTab() {
 
 wxWindow* OptionsDialog::CreateLogTab() {
     auto* const page = CreatePage(tabs_);
-    const auto createFrame = [&](const char* name, const char* caption) {
-        auto* const frame = new wxStaticBoxSizer(wxVERTICAL, page, caption);
-        frame->GetStaticBox()->SetName(name);
-        auto* const grid = new wxFlexGridSizer(2, wxSize(Pixels(12), Pixels(8)));
-        grid->AddGrowableCol(1);
-        frame->Add(grid, wxSizerFlags().Expand().Border(wxALL, Pixels(8)));
-        return std::pair(frame, grid);
-    };
-    const auto centred = wxSizerFlags().CentreVertical();
-
-    const auto [search, searchGrid] = createFrame("Frame2", "Search SX Projects");
-    wxWindow* const searchBox = search->GetStaticBox();
-    label1_ = CreateLabel(searchBox, "Label1");
-    text1_ = new wxTextCtrl(searchBox, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
-                            wxTE_READONLY, wxDefaultValidator, "Text1");
-    platform::SetAccessibleName(text1_->GetHandle(), "Path:");
-    searchGrid->Add(CreateLabel(searchBox, "Label4", "Date:"), centred);
-    searchGrid->Add(label1_, centred);
-    searchGrid->Add(CreateLabel(searchBox, "Label5", "Path:"), centred);
-    searchGrid->Add(text1_, wxSizerFlags(1).Expand());
-
-    const auto [inventory, inventoryGrid] = createFrame("Frame3", "Find installed Plugins");
-    wxWindow* const inventoryBox = inventory->GetStaticBox();
-    label7_ = CreateLabel(inventoryBox, "Label7");
-    inventoryGrid->Add(CreateLabel(inventoryBox, "Label6", "Date:"), centred);
-    inventoryGrid->Add(label7_, centred);
-
+    auto* const search = CreateSearchFrame(page);
+    auto* const inventory = CreateInventoryFrame(page);
     auto* const all = new wxBoxSizer(wxVERTICAL);
     all->Add(search, wxSizerFlags().Expand().Border(wxALL, Pixels(12)));
     all->Add(inventory, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, Pixels(12)));
     page->SetSizer(all);
     return page;
+}
+
+wxSizer* OptionsDialog::CreateSearchFrame(wxWindow* page) {
+    auto* const frame = CreateFrame(page, "Frame2", "Search SX Projects");
+    auto* const grid = AddGrid(frame);
+    wxWindow* const box = frame->GetStaticBox();
+    label1_ = CreateLabel(box, "Label1");
+    text1_ = new wxTextCtrl(box, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_READONLY,
+                            wxDefaultValidator, "Text1");
+    platform::SetAccessibleName(text1_->GetHandle(), "Path:");
+    const auto centred = wxSizerFlags().CentreVertical();
+    grid->Add(CreateLabel(box, "Label4", "Date:"), centred);
+    grid->Add(label1_, centred);
+    grid->Add(CreateLabel(box, "Label5", "Path:"), centred);
+    grid->Add(text1_, wxSizerFlags(1).Expand());
+    return frame;
+}
+
+wxSizer* OptionsDialog::CreateInventoryFrame(wxWindow* page) {
+    auto* const frame = CreateFrame(page, "Frame3", "Find installed Plugins");
+    auto* const grid = AddGrid(frame);
+    wxWindow* const box = frame->GetStaticBox();
+    label7_ = CreateLabel(box, "Label7");
+    const auto centred = wxSizerFlags().CentreVertical();
+    grid->Add(CreateLabel(box, "Label6", "Date:"), centred);
+    grid->Add(label7_, centred);
+    return frame;
+}
+
+/// A grid of labels and of what they name.
+wxSizer* OptionsDialog::AddGrid(wxSizer* frame) const {
+    auto* const grid = new wxFlexGridSizer(2, wxSize(Pixels(12), Pixels(8)));
+    grid->AddGrowableCol(1);
+    frame->Add(grid, wxSizerFlags().Expand().Border(wxALL, Pixels(8)));
+    return grid;
 }
 
 void OptionsDialog::BindEvents() {

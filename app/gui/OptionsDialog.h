@@ -42,6 +42,9 @@ class OptionsDialog final : public wxDialog, private OptionsView {
     wxWindow* CreateCsvTab();
     wxWindow* CreateGeneralTab();
     wxWindow* CreateLogTab();
+    wxSizer* CreateSearchFrame(wxWindow* page);
+    wxSizer* CreateInventoryFrame(wxWindow* page);
+    wxSizer* AddGrid(wxSizer* frame) const;
     void BindEvents();
     void LayOut();
     void FollowScreen();
