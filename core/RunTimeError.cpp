@@ -75,8 +75,6 @@ std::string DescriptionOf(ErrorNumber number) {
             return "Device I/O error";
         case ErrorNumber::DiskFull:
             return "Disk full";
-        case ErrorNumber::InputPastEnd:
-            return "Input past end of file";
         case ErrorNumber::BadRecordNumber:
             return "Bad record number";
         case ErrorNumber::PermissionDenied:

@@ -17,7 +17,6 @@ enum class ErrorNumber {
     FileNotFound = 53,
     DeviceIo = 57,
     DiskFull = 61,
-    InputPastEnd = 62,
     BadRecordNumber = 63,
     PermissionDenied = 70,
     PathFileAccess = 75,

@@ -21,9 +21,8 @@ class FolderChooser {
 };
 
 /// Lets the user choose a folder.
-/// @param initialFolder selected at first, and where the picker tells what is selected, shown with
-/// its
-///        path, as is whatever the user selects then; empty for neither.
+/// @param initialFolder selected at first, and shown with its path where the picker tells what is
+///        selected, as is whatever the user selects then; empty for neither.
 /// @param includeFiles whether files are shown too.
 /// @param newDialogStyle whether the picker can be resized and makes folders.
 /// @return the folder's path; empty when the user cancels, and after a failure, which is logged

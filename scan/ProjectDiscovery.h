@@ -9,7 +9,7 @@
 
 namespace marlo {
 
-/// A date as a number of days since 30 December 1899.
+/// What is made of the last run's date: the number that its text begins with, which is its month.
 using DateNumber = double;
 
 /// Collects the full paths of the project files in a folder in `lists.ProjectFiles`, in the order

@@ -70,7 +70,7 @@ struct SearchLists {
     /// in double quotes, joined by commas. The type is seven characters, padded with spaces.
     TextList PluginOccurrences;
     /// A key record for every plug-in of a project, the first three fields of the occurrence
-    /// record, with its merged state (`ProjectPluginStates`).
+    /// record, with its merged state.
     MergedStates ProjectPluginKeys;
     /// How much record text, in bytes, may still be added.
     std::size_t recordTextLeft = kMaxTotalRecordText;

@@ -31,11 +31,11 @@ struct SearchSummary {
 /// The whole "Search SX Projects" command: asks for the folder and for its subfolders, finds the
 /// projects, scans each one, writes the result files and says how it went in message boxes.
 ///
-/// Reads and writes the settings 1 (folder) and 3 (subfolders), and writes setting 11 (date and
-/// time) when the result files were written. Cancel is seen between two projects; it leaves the
-/// old result files as they are. A project that cannot be scanned does not stop the run. An
-/// unexpected failure is logged under "GetPlugins4AllProjects". However the run ends, `lists` are
-/// empty, the status boxes are cleared and the buttons enabled again.
+/// Reads and writes the settings 1 (folder) and 3 (subfolders), reads setting 11 (date and time of
+/// the last run), and writes it when the result files were written. Cancel is seen between two
+/// projects; it leaves the old result files as they are. A project that cannot be scanned does not
+/// stop the run. An unexpected failure is logged under "GetPlugins4AllProjects". However the run
+/// ends, `lists` are empty, the status boxes are cleared and the buttons enabled again.
 SearchSummary GetPlugins4AllProjects(const Application& application, MainWindow& window,
                                      SearchLists& lists);
 

@@ -34,7 +34,7 @@ bool IsStillAt(int handle, const std::string& path) {
            open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
-/// Calls `write` with what is left of `bytes` until all is written.
+/// Calls `writeSome` with what is left of `bytes` and where that begins, until all is written.
 template <class WriteSome>
 std::error_code WriteAll(std::string_view bytes, WriteSome writeSome) {
     std::size_t done = 0;

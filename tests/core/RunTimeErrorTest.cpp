@@ -106,7 +106,6 @@ TEST(RunTimeErrorTest, EveryNumberHasItsDescription) {
         {53, "File not found"},
         {57, "Device I/O error"},
         {61, "Disk full"},
-        {62, "Input past end of file"},
         {63, "Bad record number"},
         {70, "Permission denied"},
         {75, "Path/File access error"},
