@@ -28,6 +28,7 @@ struct frmAbout {
     std::string lblDescription;
 };
 
+/// What the About box of a version tells.
 frmAbout LoadAbout(const Version& version);
 
 /// Centres a dialog over the main window, wherever that stands, also partly off the screen.

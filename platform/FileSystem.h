@@ -47,7 +47,8 @@ class Folder {
     /// Which folder this is, whatever path or link led to it.
     FileIdentity Identity(std::error_code& error) const;
 
-    /// Reads the folder's entries.
+    /// Reads the folder's entries from the first one on.
+    /// @return those that came before the error, if there is one.
     FolderEntries Entries(std::error_code& error) const;
 
   private:

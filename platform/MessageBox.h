@@ -12,6 +12,7 @@ enum class MessageAnswer { None, Ok, Cancel, Yes, No };
 /// @param owner the system's own handle of the window that the box is shown over, nullptr for none;
 ///        when another window of the program is active, that one owns the box.
 /// @param text in UTF-16, as is the title.
+/// @return the button that closed it; `None` when it could not be shown.
 MessageAnswer ShowMessageBox(void* owner, const std::wstring& text, const std::wstring& title,
                              MessageButtons buttons, MessageIcon icon);
 

@@ -70,6 +70,7 @@ class Registry {
     virtual std::int32_t EnumerateKey(RegistryKey key, std::uint32_t index, std::span<char> buffer,
                                       std::uint32_t& length) = 0;
 
+    /// Closes a key that `OpenKey` has given. A hive stays open.
     virtual void CloseKey(RegistryKey key) = 0;
 
     /// A path that stands in the registry, as one that opens the same file on this machine; empty

@@ -27,6 +27,8 @@ struct IgnoreSettings {
     bool off = false;      ///< uses that are off
 };
 
+/// Reads from the settings what is to be left out; a setting that cannot be read, which is logged
+/// under "getSetting", leaves nothing out.
 IgnoreSettings ReadIgnoreSettings(const Application& application);
 
 /// The column that orders the rows of the list, 1-based; 0 for none.

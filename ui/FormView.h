@@ -43,22 +43,29 @@ class FormView {
     /// Brings the result list in line with its model, which has changed.
     virtual void ShowList() = 0;
 
+    /// How large the controls have to be for their texts, in twips.
     virtual NaturalSizes Sizes() const = 0;
+    /// The room for controls in the window, in twips.
     virtual TwipSize ClientArea() const = 0;
+    /// Whether the window is minimised, and has no room to lay out.
     virtual bool IsMinimised() const = 0;
+    /// Moves the panes and controls to their places.
     virtual void Place(const FormLayout& layout) = 0;
 
+    /// Puts texts into the list of search types, in the place of all others.
     virtual void FillSearchTypes(const std::vector<std::string>& types) = 0;
-    /// 0-based; -1 for none.
+    /// The search type that is picked, 0-based; -1 for none.
     virtual int SearchType() const = 0;
     virtual void SetSearchType(int index) = 0;
     virtual bool IgnoreCase() const = 0;
     virtual void SetIgnoreCase(bool isChecked) = 0;
+    /// The text to search for as it was typed, a field.
     virtual std::string SearchText() const = 0;
 
     /// Starts calling `Form1::Timer1_Timer`.
     /// @param interval in milliseconds.
     virtual void StartTimer(int interval) = 0;
+    /// Stops the calls; without effect when there are none.
     virtual void StopTimer() = 0;
 
     /// Calls `action` soon, when the window has been painted.
@@ -81,6 +88,7 @@ class FormView {
     /// Takes the shading of the result list's rows away.
     virtual void RemoveListViewLedger() = 0;
 
+    /// The folder picker, which is shown over the window.
     virtual FolderChooser& Folders() = 0;
     /// Shows a dialog until the user closes it.
     virtual void ShowOptions() = 0;

@@ -12,6 +12,7 @@ void AppendUtf8(std::string& text, char32_t character);
 /// stands for itself.
 char32_t TakeCharacter(std::string_view& text);
 
+/// Whether all of `text` is UTF-8; an empty text is.
 bool IsUtf8(std::string_view text);
 
 }  // namespace marlo::platform

@@ -53,6 +53,9 @@ class WineRegistryFile {
     /// The names of the keys directly below `node`, in the registry's order.
     std::vector<std::string_view> Subkeys(const Node& node) const;
 
+    /// A value of a key, without regard to the case of its name; "" is the name of the default
+    /// value. Where the file has the key twice, the last one that has the value counts.
+    /// @return nothing when the key has no such value.
     std::optional<WineValue> Value(const Node& node, std::string_view name) const;
 
     /// Whether `node` has neither values nor keys below it.
