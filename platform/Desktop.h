@@ -26,9 +26,9 @@ struct ShellRequest {
 /// full path of a picture file.
 struct ShellIcon {
     std::string name{};
-    int width = 0;  ///< of the drawn icon, in dots
+    int width = 0;  ///< of the drawn icon, in pixels
     int height = 0;
-    std::vector<unsigned char> dots{};  ///< row by row: red, green, blue and opacity of each
+    std::vector<unsigned char> pixels{};  ///< row by row: red, green, blue and opacity of each
 };
 
 /// The shell's answers up to this one are failures.

@@ -49,7 +49,8 @@ class CommandLine {
         AddFind();
         AddFolders();
         AddOptions();
-        AddCommand(app_, "log", "Print when the last runs were, and what was searched", RunLog);
+        AddCommand(app_, "log", "Print when the last runs were, and what was searched",
+                   PrintRunLog);
     }
 
     std::variant<Request, int> Read(std::vector<std::string> arguments) {
@@ -265,7 +266,7 @@ class CommandLine {
     ReportOptions report_;
     FindOptions find_;
     std::string vstFolder_;
-    OptionsOptions options_;
+    OptionChanges options_;
     std::function<int(const Environment&)> command_;
 };
 

@@ -93,16 +93,17 @@ int RunFoldersAdd(const Environment& environment, const std::string& folder);
 /// @return kFailed when it is not in the list.
 int RunFoldersRemove(const Environment& environment, const std::string& folder);
 
-struct OptionsOptions {
+/// The options to set; the others stay as they are.
+struct OptionChanges {
     std::optional<std::string> csvProgram;
     std::optional<bool> ignoreDirectX;
     std::optional<bool> ignoreOff;
 };
 
 /// Sets the options that are given, and prints all of them as they are then.
-int RunOptions(const Environment& environment, const OptionsOptions& options);
+int RunOptions(const Environment& environment, const OptionChanges& changes);
 
 /// Prints when the last runs were and what was searched.
-int RunLog(const Environment& environment);
+int PrintRunLog(const Environment& environment);
 
 }  // namespace marlo::cli

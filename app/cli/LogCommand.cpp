@@ -20,10 +20,10 @@ void PrintLine(const std::string& label, const std::string& value) {
 
 }  // namespace
 
-int RunLog(const Environment& environment) {
+int PrintRunLog(const Environment& environment) {
     TerminalWindow window(ProgressStyle::None);
     const Application application = ApplicationOf(environment, window);
-    const marlo::RunLog log = ReadRunLog(application);
+    const RunLog log = ReadRunLog(application);
     std::cout << "Search SX Projects\n";
     PrintLine("Date", log.searchDate);
     PrintLine("Path", log.searchPath);

@@ -38,20 +38,20 @@ void PrintOptions(const Application& application) {
 
 }  // namespace
 
-int RunOptions(const Environment& environment, const OptionsOptions& options) {
+int RunOptions(const Environment& environment, const OptionChanges& changes) {
     TerminalWindow window(ProgressStyle::None);
     const Application application = ApplicationOf(environment, window);
-    if (options.csvProgram) {
+    if (changes.csvProgram) {
         std::error_code error;
-        const std::string path = platform::FullPath(*options.csvProgram, error);
+        const std::string path = platform::FullPath(*changes.csvProgram, error);
         if (error || !platform::IsFile(path, error))
-            return Complain(kCommand, kFailed, *options.csvProgram + ": no such program");
+            return Complain(kCommand, kFailed, *changes.csvProgram + ": no such program");
         if (!FitsSetting(path))
             return ComplainOfPath(kCommand, path);
         WriteSetting(application, setting::kCsvProgram, path);
     }
-    WriteFlag(application, setting::kIgnoreDirectX, options.ignoreDirectX);
-    WriteFlag(application, setting::kIgnoreOff, options.ignoreOff);
+    WriteFlag(application, setting::kIgnoreDirectX, changes.ignoreDirectX);
+    WriteFlag(application, setting::kIgnoreOff, changes.ignoreOff);
     FillInCsvProgram(application);
     PrintOptions(application);
     return FinishOutput(window.SawFailure() ? kFailed : kDone);

@@ -17,11 +17,11 @@ constexpr int kSmallIconSize = 16;  // design pixels
 wxBitmap PictureOf(const platform::ShellIcon& icon, const wxWindow& window, const wxSize& size) {
     wxImage picture(icon.width, icon.height, false);
     picture.InitAlpha();
-    const unsigned char* dot = icon.dots.data();
+    const unsigned char* pixel = icon.pixels.data();
     for (int y = 0; y < icon.height; ++y)
-        for (int x = 0; x < icon.width; ++x, dot += 4) {
-            picture.SetRGB(x, y, dot[0], dot[1], dot[2]);
-            picture.SetAlpha(x, y, dot[3]);
+        for (int x = 0; x < icon.width; ++x, pixel += 4) {
+            picture.SetRGB(x, y, pixel[0], pixel[1], pixel[2]);
+            picture.SetAlpha(x, y, pixel[3]);
         }
     wxBitmap bitmap(picture.Scale(size.x, size.y, wxIMAGE_QUALITY_HIGH));
     bitmap.SetScaleFactor(window.GetDPIScaleFactor());  // else lists enlarge it once more
@@ -48,7 +48,7 @@ void IconBox::Redraw() {
     const platform::ShellIcon& icon = *icon_;
     const int side = DesignPixels(window_, kSmallIconSize);
     const wxSize size(side, side);
-    if (!icon.dots.empty())
+    if (!icon.pixels.empty())
         picture_ = PictureOf(icon, window_, size);
     else if (icon.name.starts_with('/'))
         picture_ = LoadPicture(window_, icon.name, size);

@@ -22,9 +22,9 @@ class Canvas {
         format.bmiHeader.biHeight = -height;  // the upper row first
         format.bmiHeader.biPlanes = 1;
         format.bmiHeader.biBitCount = 32;
-        void* dots = nullptr;
-        bitmap_ = CreateDIBSection(context_, &format, DIB_RGB_COLORS, &dots, nullptr, 0);
-        dots_ = static_cast<const std::uint32_t*>(dots);
+        void* pixels = nullptr;
+        bitmap_ = CreateDIBSection(context_, &format, DIB_RGB_COLORS, &pixels, nullptr, 0);
+        pixels_ = static_cast<const std::uint32_t*>(pixels);
         if (bitmap_ == nullptr)
             return;
         before_ = SelectObject(context_, bitmap_);
@@ -47,28 +47,28 @@ class Canvas {
 
     HDC Context() const { return context_; }
     /// nullptr when there is no memory for them. Blue is the lowest byte.
-    const std::uint32_t* Dots() const { return dots_; }
+    const std::uint32_t* Pixels() const { return pixels_; }
 
   private:
     HDC context_;
     HBITMAP bitmap_ = nullptr;
     HGDIOBJ before_ = nullptr;
-    const std::uint32_t* dots_ = nullptr;
+    const std::uint32_t* pixels_ = nullptr;
 };
 
-unsigned char ByteOf(std::uint32_t dot, int index) {
-    return static_cast<unsigned char>(dot >> (8 * index));
+unsigned char ByteOf(std::uint32_t pixel, int index) {
+    return static_cast<unsigned char>(pixel >> (8 * index));
 }
 
-/// What a dot is that looks like this on black and on white. Not every icon has opacities of its
+/// What a pixel is that looks like this on black and on white. Not every icon has opacities of its
 /// own.
-void AddDot(std::vector<unsigned char>& dots, std::uint32_t onBlack, std::uint32_t onWhite) {
+void AddPixel(std::vector<unsigned char>& pixels, std::uint32_t onBlack, std::uint32_t onWhite) {
     constexpr int full = 255;
     const int opacity = full - (ByteOf(onWhite, 1) - ByteOf(onBlack, 1));
     for (const int colour : {2, 1, 0})
-        dots.push_back(static_cast<unsigned char>(
+        pixels.push_back(static_cast<unsigned char>(
             opacity <= 0 ? 0 : std::min(full, ByteOf(onBlack, colour) * full / opacity)));
-    dots.push_back(static_cast<unsigned char>(std::clamp(opacity, 0, full)));
+    pixels.push_back(static_cast<unsigned char>(std::clamp(opacity, 0, full)));
 }
 
 /// @return the shell's own list of images; nullptr when it knows no image for the file.
@@ -94,15 +94,15 @@ std::optional<ShellIcon> DrawnSmallIcon(const std::string& path) {
         return std::nullopt;
     const Canvas onBlack(icon.width, icon.height, RGB(0, 0, 0));
     const Canvas onWhite(icon.width, icon.height, RGB(255, 255, 255));
-    if (onBlack.Dots() == nullptr || onWhite.Dots() == nullptr)
+    if (onBlack.Pixels() == nullptr || onWhite.Pixels() == nullptr)
         return std::nullopt;
     for (const Canvas* const canvas : {&onBlack, &onWhite})
         ImageList_Draw(list, info.iIcon, canvas->Context(), 0, 0, ILD_TRANSPARENT);
     GdiFlush();
     const int count = icon.width * icon.height;
-    icon.dots.reserve(static_cast<std::size_t>(count) * 4);
+    icon.pixels.reserve(static_cast<std::size_t>(count) * 4);
     for (int i = 0; i < count; ++i)
-        AddDot(icon.dots, onBlack.Dots()[i], onWhite.Dots()[i]);
+        AddPixel(icon.pixels, onBlack.Pixels()[i], onWhite.Pixels()[i]);
     return icon;
 }
 

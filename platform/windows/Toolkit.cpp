@@ -22,15 +22,15 @@ long RoleOf(ControlRole role) {
     return ROLE_SYSTEM_CLIENT;
 }
 
-/// What takes notes on windows for assistive technology; nullptr where the system has none.
-IAccPropServices* Notes() {
-    static IAccPropServices* const notes = [] {
+/// What annotates windows for assistive technology; nullptr where the system has none.
+IAccPropServices* Annotations() {
+    static IAccPropServices* const annotations = [] {
         void* made = nullptr;
         CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
                          &made);
         return static_cast<IAccPropServices*>(made);
     }();
-    return notes;
+    return annotations;
 }
 
 }  // namespace
@@ -52,20 +52,20 @@ void FlushDisplay() {
 }
 
 void SetAccessibleName(void* control, ControlRole role, const std::string& name) {
-    if (Notes() != nullptr) {
+    if (Annotations() != nullptr) {
         VARIANT value{};
         value.vt = VT_I4;
         value.lVal = RoleOf(role);
-        Notes()->SetHwndProp(static_cast<HWND>(control), static_cast<DWORD>(OBJID_CLIENT),
-                             CHILDID_SELF, PROPID_ACC_ROLE, value);
+        Annotations()->SetHwndProp(static_cast<HWND>(control), static_cast<DWORD>(OBJID_CLIENT),
+                                   CHILDID_SELF, PROPID_ACC_ROLE, value);
     }
     SetAccessibleName(control, name);
 }
 
 void SetAccessibleName(void* control, const std::string& name) {
-    if (Notes() != nullptr)
-        Notes()->SetHwndPropStr(static_cast<HWND>(control), static_cast<DWORD>(OBJID_CLIENT),
-                                CHILDID_SELF, PROPID_ACC_NAME, WideText(name).c_str());
+    if (Annotations() != nullptr)
+        Annotations()->SetHwndPropStr(static_cast<HWND>(control), static_cast<DWORD>(OBJID_CLIENT),
+                                      CHILDID_SELF, PROPID_ACC_NAME, WideText(name).c_str());
 }
 
 }  // namespace marlo::platform

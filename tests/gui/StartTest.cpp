@@ -41,7 +41,7 @@ class StartTest : public test::GuiTest {
         constexpr int side = 16;
         platform::ShellIcon icon{.width = side, .height = side};
         for (int i = 0; i < side * side; ++i)
-            icon.dots.insert(icon.dots.end(), {0xFF, 0, 0, 0xFF});
+            icon.pixels.insert(icon.pixels.end(), {0xFF, 0, 0, 0xFF});
         return icon;
     }
 

@@ -66,9 +66,9 @@ std::optional<PinTypeTable> ReadLiterally(const Bytes& data) {
     return table.empty() ? std::nullopt : std::optional(table);
 }
 
-class FilterDataFuzzTest : public test::ApplicationTest {
+class FilterDataMutationTest : public test::ApplicationTest {
   protected:
-    FilterDataFuzzTest() {
+    FilterDataMutationTest() {
         registry.SetText(kClassesRoot, "Filter", "FriendlyName", "Echo");
         application.onErrorLogged = [this](const ErrorEntry& entry) { last_ = entry; };
     }
@@ -96,14 +96,14 @@ class FilterDataFuzzTest : public test::ApplicationTest {
     ErrorEntry last_;
 };
 
-TEST_F(FilterDataFuzzTest, TheCodecItselfIsCompatible) {
+TEST_F(FilterDataMutationTest, TheCodecItselfIsCompatible) {
     Check(kCodec);
     std::string name;
     EXPECT_TRUE(
         IsCubaseCompatible(application, GetPluginTypes(application, kClassesRoot, "Filter"), name));
 }
 
-TEST_F(FilterDataFuzzTest, EveryByteMayHaveEveryValue) {
+TEST_F(FilterDataMutationTest, EveryByteMayHaveEveryValue) {
     for (std::size_t at = 0; at < kCodec.size(); ++at)
         for (const int value : {0, 1, 2, 0x10, 0x7F, 0x80, 0xFE, 0xFF}) {
             Bytes data = kCodec;
@@ -112,12 +112,12 @@ TEST_F(FilterDataFuzzTest, EveryByteMayHaveEveryValue) {
         }
 }
 
-TEST_F(FilterDataFuzzTest, TheDataMayEndAnywhere) {
+TEST_F(FilterDataMutationTest, TheDataMayEndAnywhere) {
     for (std::size_t size = 0; size < kCodec.size(); ++size)
         Check(Bytes(kCodec.begin(), kCodec.begin() + static_cast<std::ptrdiff_t>(size)));
 }
 
-TEST_F(FilterDataFuzzTest, ManyRandomChangesAtOnce) {
+TEST_F(FilterDataMutationTest, ManyRandomChangesAtOnce) {
     std::mt19937 random(20061115);
     const auto below = [&](std::size_t bound) { return random() % bound; };
     const std::vector<Bytes> seeds = {
