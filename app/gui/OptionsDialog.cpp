@@ -38,7 +38,7 @@ wxCheckBox* CreateCheckBox(wxWindow* parent, const char* name, const char* capti
                           wxDefaultValidator, name);
 }
 
-wxStaticBoxSizer* CreateFrame(wxWindow* page, const char* name, const char* caption) {
+wxStaticBoxSizer* CreateCaptionedBox(wxWindow* page, const char* name, const char* caption) {
     auto* const frame = new wxStaticBoxSizer(wxVERTICAL, page, caption);
     frame->GetStaticBox()->SetName(name);
     return frame;
@@ -131,7 +131,7 @@ wxWindow* OptionsDialog::CreateGeneralTab() {
     auto* const page = CreatePage(tabs_);
     chkIgnoreDX_ = CreateCheckBox(page, "chkIgnoreDX", "Ignore DirectX Plugins");
     chkIgnoreOff_ = CreateCheckBox(page, "chkIgnoreOff", "Ignore Plugins that are turned off");
-    auto* const note = CreateFrame(page, "Frame4", "Note");
+    auto* const note = CreateCaptionedBox(page, "Frame4", "Note");
     label2_ = CreateLabel(note->GetStaticBox(), "Label2");
     note->Add(label2_, wxSizerFlags().Expand().Border(wxALL, Pixels(8)));
     auto* const all = new wxBoxSizer(wxVERTICAL);
@@ -154,7 +154,7 @@ wxWindow* OptionsDialog::CreateLogTab() {
 }
 
 wxSizer* OptionsDialog::CreateSearchFrame(wxWindow* page) {
-    auto* const frame = CreateFrame(page, "Frame2", "Search SX Projects");
+    auto* const frame = CreateCaptionedBox(page, "Frame2", "Search SX Projects");
     auto* const grid = AddGrid(frame);
     wxWindow* const box = frame->GetStaticBox();
     label1_ = CreateLabel(box, "Label1");
@@ -170,7 +170,7 @@ wxSizer* OptionsDialog::CreateSearchFrame(wxWindow* page) {
 }
 
 wxSizer* OptionsDialog::CreateInventoryFrame(wxWindow* page) {
-    auto* const frame = CreateFrame(page, "Frame3", "Find installed Plugins");
+    auto* const frame = CreateCaptionedBox(page, "Frame3", "Find installed Plugins");
     auto* const grid = AddGrid(frame);
     wxWindow* const box = frame->GetStaticBox();
     label7_ = CreateLabel(box, "Label7");
