@@ -142,7 +142,8 @@ bool RandomUser::Calm(gui::Form1Window& window) {
     if (window.IsIconized())
         test::Restore(window);
     else if (IsMenuOpen())
-        Press(GDK_KEY_Escape);
+        PressKey(GDK_KEY_Escape,
+                 Modifier::Nothing);  // a menu has the keyboard, whoever had it before
     else if (dialog != nullptr && OpenDialogs::IsPicker(*dialog))
         Press(GDK_KEY_Escape);
     else if (dialog != nullptr && IsLuck(50))

@@ -18,6 +18,7 @@ namespace {
 constexpr int kInterval = 8;  // milliseconds
 constexpr std::chrono::seconds kBetweenRests{2};
 constexpr unsigned kPatience = 30;  // seconds without an event
+constexpr std::chrono::seconds kLongestWayToRest{30};
 
 constexpr std::ptrdiff_t kMostGrowth = std::ptrdiff_t{2} << 20;  // bytes
 
@@ -52,6 +53,8 @@ void Soak::Notify() {
         user_.Act(*window_);
     else if (!user_.Calm(*window_))
         Rest();
+    else if (std::chrono::steady_clock::now() > nextRest_ + kLongestWayToRest)
+        Fail("the window does not come to rest");
 }
 
 void Soak::Open() {
@@ -105,7 +108,6 @@ void Soak::Rest() {
     if (PartOver() < 1)
         return;
     Stop();
-    alarm(0);
     wxTheApp->ExitMainLoop();
 }
 
@@ -118,6 +120,7 @@ void Soak::CountLogEntries() {
 }
 
 bool Soak::Report() {
+    alarm(0);
     CountLogEntries();
     record_.Print(std::cout);
     heap_.Print(std::cout);
