@@ -37,17 +37,17 @@ TEST_F(InstalledCommandTest, TheInterruptKeyCancelsAndKeepsWhatWasFound) {
     if (!test::HasUnixShell())
         GTEST_SKIP() << test::kNoUnixShell;
     const std::string found = folder.Write("vst/Found.dll", "");
-    for (int i = 0; i < 10000; ++i)
+    for (int i = 0; i < 20000; ++i)
         std::filesystem::create_directories(folder.Path("vst/" + std::to_string(i) + "/sub"));
-    folder.Write("vst/9999/sub/Not reached.dll", "");
+    folder.Write("vst/19999/sub/Not reached.dll", "");
     Marlo({"folders", "add", folder.Path("vst")});
     auto program = Program::StartInTerminal(CommandLine({"installed"}));
-    program.ReadUntil("VST Plugins...");
+    program.ReadUntil("/vst/");  // a folder in it, after the files in it
     program.Type("\x03");
     const std::string said = program.ReadAll();
     EXPECT_EQ(program.Wait(), 130);
     EXPECT_NE(said.find("Cancelled"), std::string::npos) << said;
-    EXPECT_EQ(List(), "\"VST\",\"Found\",\"" + found + "\"\r\n");
+    EXPECT_TRUE(List().starts_with("\"VST\",\"Found\",\"" + found + "\"\r\n"));
     EXPECT_NE(Setting(15), "");
 }
 

@@ -70,7 +70,8 @@ TEST_F(LineReaderTest, ALineWithoutEndDoesNotTakeAllMemory) {
         }
     });
     EXPECT_EQ(failure, ErrorNumber::OutOfMemory);
-    EXPECT_LT(taken, 3 * kMaxLineLength);
+    // AddressSanitizer keeps for a while what has been given back.
+    EXPECT_LT(taken, (test::kIsSanitized ? 6 : 3) * kMaxLineLength);
 }
 
 TEST_F(LineReaderTest, AMissingFileOrAFolderIsAFailure) {

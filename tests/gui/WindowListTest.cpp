@@ -5,6 +5,7 @@
 #include <wx/msgdlg.h>
 
 #include "tests/gui/ListGuiTest.h"
+#include "ui/CellText.h"
 
 namespace marlo {
 namespace {
@@ -130,8 +131,9 @@ TEST_F(ListLookTest, ANameOf10MegabytesIsCutAndSavedWhole) {
         "resultfiles/installedplugins.csv",
         "\"VST\",\"Alpha\",\"" + alpha_ + "\"\r\n\"VST\",\"" + endless + "\",\"/w.dll\"\r\n");
     ShowInstalled();
-    constexpr std::size_t shown = 1000;
-    EXPECT_EQ(Column(0), (Texts{"Alpha", endless.substr(0, shown) + "…"}));
+    const std::string shown = Column(0).at(1);
+    EXPECT_LE(shown.size(), kMostCellLength + std::string("…").size());
+    EXPECT_TRUE(shown.starts_with(endless.substr(0, 500)));
     EXPECT_LE(List().GetColumnWidth(0), List().FromDIP(2000));
     Logic().SaveList(folder.Path("list.csv"));
     EXPECT_NE(folder.Read("list.csv").find("\"" + endless + "\",\"VST\",\"/w.dll\""),
@@ -155,18 +157,6 @@ TEST_F(ListLookTest, NoCharacterOfANameReachesOutOfItsCell) {
     ASSERT_EQ(List().GetItemCount(), 4);
     EXPECT_EQ(test::PlaceOfRow(List(), 0).GetSize(), test::PlaceOfRow(List(), 2).GetSize());
     EXPECT_TRUE(test::AreEqual(besideTheName(0), besideTheName(2)));
-}
-
-TEST_F(ListLookTest, KeysDoNothingInAListWithoutRoomForARow) {
-    ShowInstalled();
-    ClickRow(0);
-    Window().SetClientSize(Window().GetClientSize().x, 150);
-    ASSERT_TRUE(test::RunEventsUntil([&] { return List().GetCountPerPage() == 0; }));
-    for (const int key : {WXK_PAGEDOWN, WXK_END, WXK_DOWN})
-        Press(key);
-    EXPECT_EQ(List().ActivePosition(), 1U);
-    Press(WXK_TAB);
-    EXPECT_NE(FocusedName(), "lstSongs");
 }
 
 using ListSortTest = WindowListTest;
