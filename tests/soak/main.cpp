@@ -65,6 +65,7 @@ bool IsToolkitsOwn(std::string_view message) {
         "gtk_widget_event: assertion 'WIDGET_REALIZED_FOR_EVENT (widget, event)' failed",
         // What the picker has looked up in a folder comes when the picker has gone.
         "gtk_tree_view_set_model: assertion 'GTK_IS_TREE_VIEW (tree_view)' failed",
+        "gtk_tree_view_get_selection: assertion 'GTK_IS_TREE_VIEW (tree_view)' failed",
         // It asks for the text field of a choice with pictures, which has none, at each key.
         "g_signal_connect_data: assertion 'G_TYPE_CHECK_INSTANCE (instance)' failed",
         "g_signal_handler_block: assertion 'G_TYPE_CHECK_INSTANCE (instance)' failed",
