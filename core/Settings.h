@@ -42,9 +42,8 @@ std::string getSetting(const Application& application, std::int16_t record);
 ///
 /// @param record the record's number, 1-based.
 /// @param value cut to `kMaxSettingLength` bytes when it is longer.
-/// @return false after a failure, which is logged under "WriteSetting". The record then is as it
-/// was,
-///         a full disk included.
+/// @return false after a failure, which is logged under "WriteSetting". The record is then as it
+///         was, also on a full disk.
 bool WriteSetting(const Application& application, std::int16_t record, std::string_view value);
 
 /// Writes values to the records from `first` on, as `WriteSetting` does, and all in one step: a
