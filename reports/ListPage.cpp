@@ -159,7 +159,7 @@ void WriteRows(std::ostream& page, const ResultList& list) {
         const ResultRow row = list.RowAt(position);
         page << (IsGreyed(list, row) ? "<tr class=\"greyed\">" : "<tr>");
         for (int column = 1; column <= list.ColumnCount(); ++column)
-            page << "<td>" << HtmlCell(list.CellText(row, column)) << "</td>";
+            page << "<td>" << HtmlCell(list.ColumnText(row, column)) << "</td>";
         page << "</tr>\n";
     }
     page << "</tbody>\n";
@@ -177,7 +177,7 @@ std::string ListAsCsv(const ResultList& list) {
     for (std::size_t position = 1; position <= list.RowCount(); ++position) {
         const ResultRow row = list.RowAt(position);
         for (int column = 1; column <= list.ColumnCount(); ++column)
-            csv.append(CsvField(list.CellText(row, column))).append(",");
+            csv.append(CsvField(list.ColumnText(row, column))).append(",");
         csv += IsGreyed(list, row) ? "\"yes\"\r\n" : "\"no\"\r\n";
     }
     return csv;
@@ -202,7 +202,7 @@ std::string RowsAsText(const ResultList& list, const std::vector<std::size_t>& p
     for (const std::size_t position : positions) {
         const ResultRow row = list.RowAt(position);
         for (int column = 1; column <= list.ColumnCount(); ++column) {
-            std::string cell = DecodeToUtf8(list.CellText(row, column));
+            std::string cell = DecodeToUtf8(list.ColumnText(row, column));
             std::replace_if(
                 cell.begin(), cell.end(),
                 [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');

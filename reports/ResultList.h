@@ -61,7 +61,7 @@ class ResultList {
     std::string_view SubItem(ResultRow row, int subItem) const;
     void SetSubItem(ResultRow row, int subItem, std::string_view text);
     /// The text that stands in a column, whichever it is.
-    std::string_view CellText(ResultRow row, int column) const {
+    std::string_view ColumnText(ResultRow row, int column) const {
         return column == 1 ? Text(row) : SubItem(row, column - 1);
     }
     TextColour SubItemColour(ResultRow row, int subItem) const;

@@ -101,7 +101,7 @@ std::vector<int> WidestCells(const ResultList& list, TextMeasure& measure) {
         WidestFew widest;
         for (std::size_t position = 1; position <= list.RowCount(); ++position) {
             const ResultRow row = list.RowAt(position);
-            const std::string_view text = list.CellText(row, column);
+            const std::string_view text = list.ColumnText(row, column);
             const float estimate = characters.Estimate(ShownPart(text));
             if (estimate > widest.Bound())
                 widest.Consider(estimate, text);

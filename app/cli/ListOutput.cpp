@@ -34,7 +34,7 @@ std::string JsonName(const std::string& header, int column) {
 std::vector<std::string> CellsOf(const ResultList& list, ResultRow row) {
     std::vector<std::string> cells;
     for (int column = 1; column <= list.ColumnCount(); ++column)
-        cells.emplace_back(list.CellText(row, column));
+        cells.emplace_back(list.ColumnText(row, column));
     return cells;
 }
 

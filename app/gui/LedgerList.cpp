@@ -211,8 +211,7 @@ wxString LedgerList::OnGetItemText(long item, long column) const {
     if (position > rows_.RowCount() || column >= rows_.ColumnCount())
         return {};
     const ResultRow row = rows_.RowAt(position);
-    return wxString::FromUTF8(
-        CellText(column == 0 ? rows_.Text(row) : rows_.SubItem(row, static_cast<int>(column))));
+    return wxString::FromUTF8(CellText(rows_.ColumnText(row, static_cast<int>(column) + 1)));
 }
 
 wxItemAttr* LedgerList::OnGetItemAttr(long item) const {

@@ -91,10 +91,11 @@ TEST_F(ResultListTest, SubItemsAreThoseBehindTheFirstColumn) {
     const ResultRow row = list.AddRow("key", "text");
     list.SetSubItem(row, 1, "sub");
     EXPECT_EQ(list.SubItem(row, 1), "sub");
-    EXPECT_EQ(list.CellText(row, 1), "text");
-    EXPECT_EQ(list.CellText(row, 2), "sub");
+    EXPECT_EQ(list.ColumnText(row, 1), "text");
+    EXPECT_EQ(list.ColumnText(row, 2), "sub");
     for (const int column : {-1, 0, 3})
-        EXPECT_EQ(FailureOf([&] { list.CellText(row, column); }), ErrorNumber::SubscriptOutOfRange);
+        EXPECT_EQ(FailureOf([&] { list.ColumnText(row, column); }),
+                  ErrorNumber::SubscriptOutOfRange);
     for (const int subItem : {-1, 0, 2}) {
         EXPECT_EQ(FailureOf([&] { list.SubItem(row, subItem); }), ErrorNumber::SubscriptOutOfRange);
         EXPECT_EQ(FailureOf([&] { list.SetSubItem(row, subItem, ""); }),
