@@ -14,26 +14,17 @@
 namespace marlo::cli {
 namespace {
 
-std::size_t allocationsLeft = 0;
-
-bool FailsOnce(std::size_t /*size*/) {
-    if (allocationsLeft == 0)
-        return false;
-    --allocationsLeft;
-    return allocationsLeft == 0;
-}
-
 class ReportCommandOutOfMemoryTest : public test::ApplicationTest {};
 
 TEST_F(ReportCommandOutOfMemoryTest, NothingButMemoryIsEverMissing) {
     folder.Write("resultfiles/installedplugins.csv", "\"VST\",\"Echo\",\"/vst/Echo.dll\"\r\n");
     const Environment environment{folder.Path(), clock, desktop, registry};
     std::size_t failures = 0;
+    bool isDone = false;
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
-    for (std::size_t number = 1; allocationsLeft == 0; ++number) {
-        allocationsLeft = number;
-        const test::FailingAllocation failing(FailsOnce);
+    for (std::size_t number = 1; !isDone; ++number) {
+        const test::FailingNthAllocation failing(number);
         try {
             RunReport(environment, {.kind = report_kind::kAll, .format = ListFormat::Csv});
         } catch (const std::bad_alloc&) {
@@ -41,6 +32,7 @@ TEST_F(ReportCommandOutOfMemoryTest, NothingButMemoryIsEverMissing) {
         } catch (...) {
             ADD_FAILURE() << "at allocation " << number;
         }
+        isDone = !test::FailingNthAllocation::HasFailed();
     }
     testing::internal::GetCapturedStdout();
     testing::internal::GetCapturedStderr();

@@ -1,6 +1,5 @@
 #include <cstddef>
 #include <functional>
-#include <limits>
 #include <set>
 #include <string>
 #include <vector>
@@ -17,13 +16,6 @@ namespace marlo {
 namespace {
 
 using Texts = std::vector<std::string>;
-
-/// Allocations until one fails.
-int allocationsLeft = 0;
-
-bool FailsNow(std::size_t /*size*/) {
-    return allocationsLeft-- == 0;
-}
 
 class DialogsOutOfMemoryTest : public test::OptionsTestBase {
   protected:
@@ -42,19 +34,18 @@ class DialogsOutOfMemoryTest : public test::OptionsTestBase {
     /// @param check called after each time in which an allocation failed.
     void Repeat(const std::function<void()>& prepare, const std::function<void()>& action,
                 const std::function<void()>& check) {
-        for (int count = 0;; ++count) {
+        for (std::size_t number = 1;; ++number) {
             prepare();
             // What the fakes write down takes no memory, so that each time takes as much.
             files.records.clear();
             view.events.clear();
             view.messages.clear();
             logged.clear();
-            allocationsLeft = count;
             {
-                const test::FailingAllocation failing(FailsNow);
+                const test::FailingNthAllocation failing(number);
                 action();
             }
-            if (allocationsLeft >= 0)
+            if (!test::FailingNthAllocation::HasFailed())
                 return;
             check();
             procedures.insert(logged.begin(), logged.end());
@@ -88,9 +79,7 @@ TEST_F(DialogsOutOfMemoryTest, EachRoutineOfTheFilePickerLogsItsOwnFailures) {
 TEST_F(DialogsOutOfMemoryTest, AFailureBeforeTheFilePickerIsShownLeavesTheRequestAsItWas) {
     FileRequest request{.fileName = "/a/program/to/start/with", .filter = "Programs of any kind|*"};
     // From the picker on, there is memory enough.
-    files.answer = [](OpenFileName& /*record*/) {
-        allocationsLeft = std::numeric_limits<int>::max();
-    };
+    files.answer = [](OpenFileName& /*record*/) { test::FailingNthAllocation::CallOff(); };
     Repeat([] {}, [&] { ShowOpenDialog(application, files, request); },
            [&] {
                EXPECT_EQ(request.fileName, "/a/program/to/start/with");
@@ -126,7 +115,7 @@ TEST_F(DialogsOutOfMemoryTest, AFolderThatCannotBeRemovedStaysAndSoDoesTheSelect
     options.SelectPath(1);
     const Texts all = view.shown.folders;
     // From the showing on, there is memory enough.
-    view.onShow = [] { allocationsLeft = std::numeric_limits<int>::max(); };
+    view.onShow = [] { test::FailingNthAllocation::CallOff(); };
     Repeat([] {}, [&] { options.cmdRemove_Click(); },
            [&] {
                const test::ShownOptions shown = test::ShownAs(options.State());

@@ -18,15 +18,6 @@
 namespace marlo {
 namespace {
 
-std::size_t allocationsLeft = 0;
-
-bool FailsOnce(std::size_t /*size*/) {
-    if (allocationsLeft == 0)
-        return false;
-    --allocationsLeft;
-    return allocationsLeft == 0;
-}
-
 class ReportOutOfMemoryTest : public test::ReportTest {
   protected:
     ReportOutOfMemoryTest() {
@@ -55,10 +46,9 @@ class ReportOutOfMemoryTest : public test::ReportTest {
     /// any more. @return how often one did.
     static std::size_t FailEach(const std::function<void()>& action) {
         for (std::size_t number = 1;; ++number) {
-            allocationsLeft = number;
-            const test::FailingAllocation failing(FailsOnce);
+            const test::FailingNthAllocation failing(number);
             action();
-            if (allocationsLeft > 0)
+            if (!test::FailingNthAllocation::HasFailed())
                 return number - 1;
         }
     }
@@ -75,7 +65,7 @@ TEST_F(ReportOutOfMemoryTest, AListStaysWholeAndTheNextReportIsComplete) {
         const std::size_t failures = FailEach([&] {
             ResultPane fresh{application, window};
             ShowInstalledPlugins(fresh, kind);
-            if (allocationsLeft > 0)
+            if (!test::FailingNthAllocation::HasFailed())
                 return;
             for (const std::string& name : test::NamesOf(fresh.lstSongs))
                 EXPECT_FALSE(name.empty());

@@ -58,26 +58,21 @@ TEST_F(OutOfMemoryTest, AKeyThatCannotBeSplitIsLoggedAndMakesTheResultFilesFail)
     EXPECT_EQ(folder.Read("resultfiles/tln.csv"), "");
 }
 
-/// Counts down to the allocation that fails.
-int untilFailure = 0;
-
 TEST_F(OutOfMemoryTest, AKeyIsAddedWhollyOrNotAtAll) {
     const std::string tooLongForAnyBlock(300000, 'k');
     bool isAdded = false;
-    for (int failing = 1; !isAdded; ++failing) {
+    for (std::size_t number = 1; !isAdded; ++number) {
         MergedStates states;
         states.Merge("first", kOn);
         try {
-            untilFailure = failing;
-            const test::FailingAllocation allocation(
-                [](std::size_t /*size*/) { return --untilFailure == 0; });
+            const test::FailingNthAllocation failing(number);
             states.Merge(tooLongForAnyBlock, kOn);
             isAdded = true;
         } catch (const std::bad_alloc&) {
-            EXPECT_EQ(states.UpperBound(), 1U) << failing;
-            EXPECT_EQ(states.Merge(tooLongForAnyBlock, kOff).state, kOff) << failing;
+            EXPECT_EQ(states.UpperBound(), 1U) << number;
+            EXPECT_EQ(states.Merge(tooLongForAnyBlock, kOff).state, kOff) << number;
         }
-        EXPECT_EQ(states.UpperBound(), 2U) << failing;
+        EXPECT_EQ(states.UpperBound(), 2U) << number;
     }
 }
 

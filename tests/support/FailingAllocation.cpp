@@ -1,11 +1,18 @@
 #include "tests/support/FailingAllocation.h"
 
 #include <cstdlib>
+#include <limits>
 #include <new>
 
 namespace {
 
 bool (*allocationFails)(std::size_t size) = nullptr;
+
+std::size_t allocationsLeft = 0;  ///< up to the one that fails, with it; 0 when it has failed
+
+bool IsLast(std::size_t /*size*/) {
+    return allocationsLeft > 0 && --allocationsLeft == 0;
+}
 
 }  // namespace
 
@@ -33,6 +40,18 @@ FailingAllocation::FailingAllocation(bool (*fails)(std::size_t size)) {
 
 FailingAllocation::~FailingAllocation() {
     allocationFails = nullptr;
+}
+
+FailingNthAllocation::FailingNthAllocation(std::size_t number) : failing_(IsLast) {
+    allocationsLeft = number;
+}
+
+bool FailingNthAllocation::HasFailed() {
+    return allocationsLeft == 0;
+}
+
+void FailingNthAllocation::CallOff() {
+    allocationsLeft = std::numeric_limits<std::size_t>::max();
 }
 
 }  // namespace marlo::test

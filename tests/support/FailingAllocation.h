@@ -16,4 +16,18 @@ class FailingAllocation {
     ~FailingAllocation();
 };
 
+/// While one of these lives, one allocation fails: the `number`th from its beginning, 1-based.
+class FailingNthAllocation {
+  public:
+    explicit FailingNthAllocation(std::size_t number);
+
+    /// Whether that of the last one of these has failed.
+    static bool HasFailed();
+    /// Lets all that are still to come succeed.
+    static void CallOff();
+
+  private:
+    FailingAllocation failing_;
+};
+
 }  // namespace marlo::test
