@@ -136,7 +136,7 @@ class Session {
 
     void ShowFocus(const std::string& name) {
         Find<wxWindow>("cmdbuttons(4)").SetFocus();
-        window_->Logic().cmdbuttons_MouseMove(2);
+        window_->Logic().cmdbuttons_MouseMove(kUnusedReportItem);
         Take(name);
         window_->Logic().Form_MouseMove();
     }

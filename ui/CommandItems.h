@@ -38,8 +38,11 @@ inline constexpr std::int32_t kCommandItemHeight = 195;
 inline constexpr std::int32_t kCommandItemWidth = 2040;
 
 inline constexpr std::size_t kCommandItemCount = 13;
+inline constexpr std::size_t kSearchItem = 0;
 inline constexpr std::size_t kInventoryItem = 1;
+inline constexpr std::size_t kUnusedReportItem = 2;
 inline constexpr std::size_t kUsedReportItem = 3;
+inline constexpr std::size_t kInstalledReportItem = 4;
 inline constexpr std::size_t kUninstalledReportItem = 5;
 inline constexpr std::size_t kProjectPluginsFileItem = 6;
 inline constexpr std::size_t kInstalledPluginsFileItem = 7;

@@ -28,7 +28,7 @@ TEST_F(CloseTest, SettingsThatCannotBeWrittenDoNotKeepTheWindowOpen) {
 TEST_F(CloseTest, GoesWithASelectedRowInTheList) {
     WriteResultFiles();
     Open();
-    Click(Item(3));
+    Click(Item(kUsedReportItem));
     ClickRow(1);
     CloseWindow();
     EXPECT_EQ(Log(), "");

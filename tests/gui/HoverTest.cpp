@@ -40,35 +40,35 @@ TEST_F(HoverTest, AnItemUnderTheMouseIsMarked) {
 
 TEST_F(HoverTest, TheMarkIsToBeSeen) {
     MoveToBackground();
-    const wxImage plain = test::PictureOf(Item(3));
-    MoveTo(Item(3));
-    EXPECT_FALSE(test::AreEqual(test::PictureOf(Item(3)), plain));
+    const wxImage plain = test::PictureOf(Item(kUsedReportItem));
+    MoveTo(Item(kUsedReportItem));
+    EXPECT_FALSE(test::AreEqual(test::PictureOf(Item(kUsedReportItem)), plain));
     MoveToMenuPane();
-    EXPECT_TRUE(test::AreEqual(test::PictureOf(Item(3)), plain));
+    EXPECT_TRUE(test::AreEqual(test::PictureOf(Item(kUsedReportItem)), plain));
 }
 
 TEST_F(HoverTest, AMarkStaysWhileTheMouseGoesToAnotherItem) {
-    MoveTo(Item(3));
-    MoveTo(Item(4));
+    MoveTo(Item(kUsedReportItem));
+    MoveTo(Item(kInstalledReportItem));
     EXPECT_EQ(Hovered(), (Indexes{3, 4}));
 }
 
 TEST_F(HoverTest, TheMenuPaneClearsTheMarksOfItsOwnItems) {
-    MoveTo(Item(3));
+    MoveTo(Item(kUsedReportItem));
     MoveTo(Item(kSearchModeItem));
     MoveToMenuPane();
     EXPECT_EQ(Hovered(), Indexes{kSearchModeItem});
 }
 
 TEST_F(HoverTest, TheRightPaneClearsTheMarkOfItsItem) {
-    MoveTo(Item(3));
+    MoveTo(Item(kUsedReportItem));
     MoveTo(Item(kSearchModeItem));
     MoveToRightPane();
     EXPECT_EQ(Hovered(), Indexes{3});
 }
 
 TEST_F(HoverTest, TheBackgroundClearsAllMarks) {
-    MoveTo(Item(3));
+    MoveTo(Item(kUsedReportItem));
     MoveTo(Item(kSearchModeItem));
     MoveToBackground();
     EXPECT_EQ(Hovered(), Indexes{});

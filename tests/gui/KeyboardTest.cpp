@@ -34,7 +34,7 @@ TEST_F(KeyboardTest, TheSearchBoxHasTheFocusAtFirst) {
 TEST_F(KeyboardTest, TabWalksTheItemsFromTheTopAndThenTheRightPane) {
     WriteResultFiles();
     Open();
-    Item(0).SetFocus();
+    Item(kSearchItem).SetFocus();
     EXPECT_EQ(Steps(WXK_TAB, wxMOD_NONE, 16),
               (Texts{Name(1), Name(2), Name(3), Name(4), Name(5), Name(6), Name(7), Name(8),
                      Name(9), Name(10), "btnDonate", Name(11), "cboSearchType", "chkIgnoreCase",
@@ -45,13 +45,13 @@ TEST_F(KeyboardTest, TabWalksTheItemsFromTheTopAndThenTheRightPane) {
 TEST_F(KeyboardTest, ShiftTabWalksBack) {
     WriteResultFiles();
     Open();
-    Item(2).SetFocus();
+    Item(kUnusedReportItem).SetFocus();
     EXPECT_EQ(Steps(WXK_TAB, wxMOD_SHIFT, 3), (Texts{Name(1), Name(0), "lstSongs"}));
 }
 
 TEST_F(KeyboardTest, LockedItemsArePassedBy) {
     Open();
-    Item(0).SetFocus();
+    Item(kSearchItem).SetFocus();
     EXPECT_EQ(Steps(WXK_TAB, wxMOD_NONE, 2), (Texts{Name(1), Name(8)}));
 }
 
@@ -100,7 +100,7 @@ TEST_F(KeyboardTest, TheFocusIsToBeSeen) {
 TEST_F(KeyboardTest, CtrlCInTheSearchBoxCopiesItsText) {
     WriteResultFiles();
     Open();
-    Click(Item(3));
+    Click(Item(kUsedReportItem));
     ClickRow(0);
     Click(Find("txtSearchText"));
     Type("abc");

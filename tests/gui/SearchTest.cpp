@@ -67,8 +67,8 @@ TEST_F(SearchTest, AsksForTheFolderAndItsSubfoldersAndUnlocksTheReports) {
                          wxYES_NO | wxCANCEL | wxICON_QUESTION, "");
         Press('Y', wxMOD_ALT);
     });
-    Click(Item(0));
-    EXPECT_TRUE(Item(3).IsEnabled());
+    Click(Item(kSearchItem));
+    EXPECT_TRUE(Item(kUsedReportItem).IsEnabled());
     EXPECT_EQ(folder.Read("resultfiles/tln.csv"),
               "\"Reverb\",\"VST\",\"On\"\r\n\"Echo\",\"VST\",\"On\"\r\n");
     EXPECT_EQ(getSetting(application, setting::kLastFolder), folder.Path("songs"));
@@ -83,7 +83,7 @@ TEST_F(SearchTest, NoLeavesTheSubfoldersOut) {
     folder.MakeFolder("songs/empty");
     Open();
     ExpectQuestions('N');
-    Click(Item(0));
+    Click(Item(kSearchItem));
     EXPECT_EQ(folder.Read("resultfiles/tln.csv"), "\"Reverb\",\"VST\",\"On\"\r\n");
     EXPECT_EQ(getSetting(application, setting::kIncludeSubfolders), "0");
 }
@@ -97,7 +97,7 @@ TEST_F(SearchTest, ThePickerStartsAtTheLastFolder) {
         test::RepeatUntil([&] { return !picker.IsOpen(); }, [&] { SendKey(WXK_RETURN); });
     });
     dialogs.Handle([&](test::Dialog& /*question*/) { Press('Y', wxMOD_ALT); });
-    Click(Item(0));
+    Click(Item(kSearchItem));
     EXPECT_EQ(getSetting(application, setting::kLastFolder), folder.Path("songs"));
     EXPECT_TRUE(folder.Exists("resultfiles/tln.csv"));
 }
@@ -105,8 +105,8 @@ TEST_F(SearchTest, ThePickerStartsAtTheLastFolder) {
 TEST_F(SearchTest, APickerThatIsCancelledEndsItWithoutAWord) {
     Open();
     dialogs.Handle([&](test::Dialog& /*picker*/) { Press(WXK_ESCAPE); });
-    Click(Item(0));
-    EXPECT_TRUE(Item(0).IsEnabled());
+    Click(Item(kSearchItem));
+    EXPECT_TRUE(Item(kSearchItem).IsEnabled());
     EXPECT_EQ(getSetting(application, setting::kLastFolder), "");
 }
 
@@ -115,8 +115,8 @@ TEST_F(SearchTest, AQuestionThatIsCancelledEndsItWithoutAWord) {
     Open();
     dialogs.Handle([&](test::Dialog& picker) { ChooseInPicker(picker, folder.Path("songs")); });
     dialogs.Handle([&](test::Dialog& /*question*/) { Press(WXK_ESCAPE); });
-    Click(Item(0));
-    EXPECT_TRUE(Item(0).IsEnabled());
+    Click(Item(kSearchItem));
+    EXPECT_TRUE(Item(kSearchItem).IsEnabled());
     EXPECT_EQ(getSetting(application, setting::kLastFolder), folder.Path("songs"));
     EXPECT_EQ(getSetting(application, setting::kIncludeSubfolders), "");
     EXPECT_FALSE(folder.Exists("resultfiles/tln.csv"));
@@ -128,7 +128,7 @@ TEST_F(SearchTest, TheStatusBoxesShowThePhaseAndTheProject) {
     const auto phases = PaintedTexts("Text1");
     const auto projects = PaintedTexts("Text2");
     ExpectQuestions();
-    Click(Item(0));
+    Click(Item(kSearchItem));
     std::erase(*phases, "(1) Compiling list of SX Projects...");  // too short to be always painted
     EXPECT_EQ(*phases, (std::vector<std::string>{
                            "(2) Finding Plugins (25%) ...", "(2) Finding Plugins (50%) ...",
@@ -152,7 +152,7 @@ TEST_F(SearchTest, WhileItRunsCancelIsTheOnlyCommandThatCanBeUsed) {
         isOtherEnabled |= Find("cmdFind").IsEnabled() || Find("btnDonate").IsEnabled();
     });
     ExpectQuestions();
-    Click(Item(0));
+    Click(Item(kSearchItem));
     ASSERT_FALSE(enabled.empty());
     for (const auto& items : enabled)
         EXPECT_EQ(items, std::set<std::size_t>{kCancelItem});
@@ -167,7 +167,7 @@ TEST_F(SearchTest, WhileItRunsAClickOnAnotherCommandDoesNothing) {
     Open();
     dialogs.Handle([&](test::Dialog& picker) { ChooseInPicker(picker, folder.Path("songs")); });
     dialogs.Handle([&](test::Dialog& /*question*/) {
-        MoveTo(Item(3));
+        MoveTo(Item(kUsedReportItem));
         Press('Y', wxMOD_ALT);
     });
     int clicks = 0;
@@ -175,7 +175,7 @@ TEST_F(SearchTest, WhileItRunsAClickOnAnotherCommandDoesNothing) {
         if (IsScanning() && ++clicks <= 3)
             SendClick();
     });
-    Click(Item(0));
+    Click(Item(kSearchItem));
     EXPECT_GE(clicks, 3);
     EXPECT_EQ(Find<gui::LedgerList>("lstSongs").GetColumnCount(), 0) << "no report is shown";
 }
@@ -189,7 +189,7 @@ TEST_F(SearchTest, TheFocusGoesToCancelAndComesBack) {
         if (IsScanning())
             during.insert(FocusedName());
     });
-    Click(Item(0));
+    Click(Item(kSearchItem));
     EXPECT_EQ(during, std::set<std::string>{"cmdbuttons(12)"});
     EXPECT_EQ(FocusedName(), "cmdbuttons(0)");
 }
@@ -228,11 +228,11 @@ TEST_F(CancelledSearchTest, AClickOnCancelEndsItAndLeavesTheOldResults) {
         if (IsScanning() && !std::exchange(isClicked, true))
             SendClick();
     });
-    Click(Item(0));
+    Click(Item(kSearchItem));
     EXPECT_TRUE(isClicked);
     ExpectOldResults();
     EXPECT_EQ(StatusText("Text1") + StatusText("Text2"), "");
-    EXPECT_TRUE(Item(0).IsEnabled());
+    EXPECT_TRUE(Item(kSearchItem).IsEnabled());
     EXPECT_FALSE(Item(kCancelItem).IsEnabled());
     EXPECT_EQ(Item(kCancelItem).Caption(), "Cancel");
 }
@@ -246,7 +246,7 @@ TEST_F(CancelledSearchTest, EscapeEndsItToo) {
         if (IsScanning() && test::HasKeyboard() && !std::exchange(isPressed, true))
             SendKey(WXK_ESCAPE);
     });
-    Click(Item(0));
+    Click(Item(kSearchItem));
     EXPECT_TRUE(isPressed);
     ExpectOldResults();
 }
@@ -260,7 +260,7 @@ TEST_F(CancelledSearchTest, EnterOnCancelEndsItToo) {
         if (IsScanning() && test::HasKeyboard() && !std::exchange(isPressed, true))
             SendKey(WXK_RETURN);
     });
-    Click(Item(0));
+    Click(Item(kSearchItem));
     ExpectOldResults();
 }
 
@@ -286,7 +286,7 @@ TEST_F(CancelledSearchTest, EnterInTheSearchBoxDoesNothingMeanwhile) {
             SendKey(WXK_ESCAPE);
         ++step;
     });
-    Click(Item(0));
+    Click(Item(kSearchItem));
     EXPECT_GE(step, 5);
     EXPECT_EQ(Find<gui::LedgerList>("lstSongs").GetColumnCount(), 0);
     ExpectOldResults();
@@ -300,7 +300,7 @@ TEST_F(CancelledSearchTest, ClosingTheWindowEndsItWithoutAWord) {
         if (IsScanning() && !std::exchange(isClosed, true))
             Window().wxFrame::Close();
     });
-    Click(Item(0));
+    Click(Item(kSearchItem));
     EXPECT_TRUE(isClosed);
     EXPECT_TRUE(test::RunEventsUntil([&] { return !IsWindowOpen(); }));
     ExpectOldResults();
@@ -311,10 +311,10 @@ TEST_F(SearchTest, AFolderWithoutProjectsGivesEmptyResultFiles) {
     folder.MakeFolder("songs");
     Open();
     ExpectQuestions();
-    Click(Item(0));
+    Click(Item(kSearchItem));
     for (const char* name : {"results.csv", "fln.csv", "tln.csv"})
         EXPECT_EQ(folder.Read(std::string("resultfiles/") + name), "") << name;
-    EXPECT_TRUE(Item(3).IsEnabled());
+    EXPECT_TRUE(Item(kUsedReportItem).IsEnabled());
 }
 
 TEST_F(SearchTest, AProjectThatCannotBeReadIsToldAtTheEnd) {
@@ -324,7 +324,7 @@ TEST_F(SearchTest, AProjectThatCannotBeReadIsToldAtTheEnd) {
     ExpectQuestions();
     ExpectMessage("Errors occurred. See " + folder.Path() + "\\results\\errorlog.txt for details",
                   wxOK);
-    Click(Item(0));
+    Click(Item(kSearchItem));
     EXPECT_NE(folder.Read("resultfiles/tln.csv").find("Reverb"), std::string::npos);
 }
 
@@ -332,7 +332,7 @@ TEST_F(SearchTest, FindInstalledPluginsWritesTheList) {
     folder.Write("vst/Reverb.dll", "");
     WriteSetting(application, setting::kFirstVstFolder, folder.Path("vst"));
     Open();
-    Click(Item(1));
+    Click(Item(kInventoryItem));
     EXPECT_NE(folder.Read("resultfiles/installedplugins.csv").find("\"Reverb\""),
               std::string::npos);
     EXPECT_EQ(getSetting(application, setting::kLastInventory), "11-15-2026 03:10:22");
@@ -350,9 +350,9 @@ TEST_F(SearchTest, EscapeEndsFindInstalledPluginsToo) {
         if (Item(kCancelItem).IsEnabled() && !std::exchange(isPressed, true))
             SendKey(WXK_ESCAPE);
     });
-    Click(Item(1));
+    Click(Item(kInventoryItem));
     EXPECT_TRUE(isPressed);
-    EXPECT_TRUE(Item(1).IsEnabled());
+    EXPECT_TRUE(Item(kInventoryItem).IsEnabled());
 }
 
 }  // namespace

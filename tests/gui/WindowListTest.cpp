@@ -31,7 +31,7 @@ class WindowListTest : public test::ListGuiTest {
         Open();
     }
 
-    void ShowInstalled() { Click(Item(4)); }
+    void ShowInstalled() { Click(Item(kInstalledReportItem)); }
     void SearchProjects() {
         Click(Find("txtSearchText"));
         Type("Alpha");

@@ -29,13 +29,13 @@ class WindowReportTest : public test::ListGuiTest {
 };
 
 TEST_F(WindowReportTest, UnusedPluginsAreThoseThatNoProjectUses) {
-    Click(Item(2));
+    Click(Item(kUnusedReportItem));
     EXPECT_EQ(Headers(), (Texts{"Unused Plugins", "Type", "Path"}));
     EXPECT_EQ(Cells(), (std::vector<Texts>{{"Delay", "VST", "C:\\vst\\Delay.dll"}}));
 }
 
 TEST_F(WindowReportTest, UsedPluginsTellWhichAreNotInstalled) {
-    Click(Item(3));
+    Click(Item(kUsedReportItem));
     EXPECT_EQ(Headers(), (Texts{"Used Plugins", "Type", "Path", "Status"}));
     EXPECT_EQ(Cells(), (std::vector<Texts>{{"Chorus", "DirectX", "", "On"},
                                            {"Gone", "VST", "!Not Installed!", "Off"},
@@ -43,7 +43,7 @@ TEST_F(WindowReportTest, UsedPluginsTellWhichAreNotInstalled) {
 }
 
 TEST_F(WindowReportTest, InstalledPluginsAreAllOfThem) {
-    Click(Item(4));
+    Click(Item(kInstalledReportItem));
     EXPECT_EQ(Headers(), (Texts{"Installed Plugins", "Type", "Path"}));
     EXPECT_EQ(Cells(), (std::vector<Texts>{{"Chorus", "DirectX", ""},
                                            {"Delay", "VST", "C:\\vst\\Delay.dll"},
@@ -51,14 +51,14 @@ TEST_F(WindowReportTest, InstalledPluginsAreAllOfThem) {
 }
 
 TEST_F(WindowReportTest, UninstalledPluginsAreThoseThatProjectsLack) {
-    Click(Item(5));
+    Click(Item(kUninstalledReportItem));
     EXPECT_EQ(Headers(), (Texts{"Uninstalled Plugins", "Type", "Status"}));
     EXPECT_EQ(Cells(), (std::vector<Texts>{{"Gone", "VST", "Off"}}));
 }
 
 TEST_F(WindowReportTest, AReportTakesThePlaceOfTheOneBefore) {
-    Click(Item(3));
-    Click(Item(5));
+    Click(Item(kUsedReportItem));
+    Click(Item(kUninstalledReportItem));
     EXPECT_EQ(Headers(), (Texts{"Uninstalled Plugins", "Type", "Status"}));
     EXPECT_EQ(List().GetItemCount(), 1);
     EXPECT_TRUE(List().IsShown());
@@ -67,25 +67,25 @@ TEST_F(WindowReportTest, AReportTakesThePlaceOfTheOneBefore) {
 TEST_F(WindowReportTest, WhatTheOptionsIgnoreHasNoColumn) {
     WriteSetting(application, setting::kIgnoreDirectX, "1");
     WriteSetting(application, setting::kIgnoreOff, "1");
-    Click(Item(3));
+    Click(Item(kUsedReportItem));
     EXPECT_EQ(Headers(), (Texts{"Used Plugins", "Path"}));
 }
 
 TEST_F(WindowReportTest, AReportWithoutPluginsSaysSo) {
     folder.Write("resultfiles/tln.csv", "");
-    Click(Item(3));
+    Click(Item(kUsedReportItem));
     EXPECT_EQ(List().GetItemCount(), 1);
     EXPECT_EQ(List().GetItemText(0), "No plugins found");
 }
 
 TEST_F(WindowReportTest, ANameThatIsNotAsciiIsShownAsItIs) {
     folder.Write("resultfiles/tln.csv", "\"H\xC3\xA4ll\",\"VST\",\"On\"\r\n");
-    Click(Item(3));
+    Click(Item(kUsedReportItem));
     EXPECT_EQ(List().GetItemText(0), wxString::FromUTF8("H\xC3\xA4ll"));
 }
 
 TEST_F(WindowReportTest, APluginThatIsNotInstalledStandsInGrey) {
-    Click(Item(3));
+    Click(Item(kUsedReportItem));
     const wxColour grey = gui::CurrentTheme().greyedRow;
     ASSERT_GT(grey.GetLuminance(), gui::kTextOnLight.GetLuminance() + 0.1);
     const auto isNear = [](const wxColour& a, const wxColour& b) {

@@ -34,7 +34,7 @@ TEST_F(Form1ClickTest, SearchSXProjectsSearchesAndUnlocksTheReports) {
     view.answer = MessageAnswer::Yes;
     std::set<std::size_t> during;
     view.onEvents = [&] { during = Enabled(); };
-    form.cmdButtons_Click(0);
+    form.cmdButtons_Click(kSearchItem);
     ASSERT_EQ(view.folders.requests.size(), 1U);
     EXPECT_EQ(view.folders.requests[0].title, "Please select a folder:");
     EXPECT_EQ(MessageTexts(), test::Texts{"Include Subfolders in the search?"});
@@ -46,7 +46,7 @@ TEST_F(Form1ClickTest, SearchSXProjectsSearchesAndUnlocksTheReports) {
 
 TEST_F(Form1ClickTest, TheFolderPickerStartsAtTheLastFolder) {
     WriteSetting(application, setting::kLastFolder, folder.Path("songs"));
-    form.cmdButtons_Click(0);
+    form.cmdButtons_Click(kSearchItem);
     EXPECT_EQ(view.folders.requests[0].initialFolder, folder.Path("songs"));
 }
 
@@ -56,9 +56,9 @@ TEST_F(Form1ClickTest, CancelEndsASearchBetweenTwoProjects) {
     view.answer = MessageAnswer::Yes;
     view.onEvents = [&] {
         if (view.text1.starts_with("(2)"))
-            form.cmdButtons_Click(12);
+            form.cmdButtons_Click(kCancelItem);
     };
-    form.cmdButtons_Click(0);
+    form.cmdButtons_Click(kSearchItem);
     EXPECT_EQ(MessageTexts().back(), "Cancelled");
     EXPECT_FALSE(folder.Exists("resultfiles/tln.csv"));
     EXPECT_EQ(view.state.cmdbuttons[12].caption, "Cancel") << "the mark is not the caption";
@@ -67,7 +67,7 @@ TEST_F(Form1ClickTest, CancelEndsASearchBetweenTwoProjects) {
 TEST_F(Form1ClickTest, FindInstalledPluginsTakesTheInventory) {
     folder.Write("vst/Reverb.dll", "");
     WriteSetting(application, setting::kFirstVstFolder, folder.Path("vst"));
-    form.cmdButtons_Click(1);
+    form.cmdButtons_Click(kInventoryItem);
     EXPECT_NE(folder.Read("resultfiles/installedplugins.csv").find("\"Reverb\""),
               std::string::npos);
 }
@@ -90,8 +90,8 @@ TEST_F(Form1ClickTest, TheReportItemsShowTheirReports) {
 TEST_F(Form1ClickTest, TheResultFileItemsOpenTheirFilesInTheChosenProgram) {
     WriteResultFiles();
     WriteSetting(application, setting::kCsvProgram, "/bin/sheets");
-    form.cmdButtons_Click(6);
-    form.cmdButtons_Click(7);
+    form.cmdButtons_Click(kProjectPluginsFileItem);
+    form.cmdButtons_Click(kInstalledPluginsFileItem);
     ASSERT_EQ(desktop.shellRequests.size(), 2U);
     EXPECT_EQ(desktop.shellRequests[0].parameters, "short:" + folder.Path("resultfiles/fln.csv"));
     EXPECT_EQ(desktop.shellRequests[1].parameters,
@@ -101,19 +101,19 @@ TEST_F(Form1ClickTest, TheResultFileItemsOpenTheirFilesInTheChosenProgram) {
 TEST_F(Form1ClickTest, AReportThatFailsShowsWhatItHasBeforeItTells) {
     WriteResultFiles();
     std::filesystem::remove(folder.Path("resultfiles/tln.csv"));
-    form.cmdButtons_Click(3);
+    form.cmdButtons_Click(kUsedReportItem);
     ASSERT_EQ(MessageTexts(), kUnexpected);
     EXPECT_EQ(view.events.front(), "ShowList");
 }
 
 TEST_F(Form1ClickTest, OptionsAndAboutShowTheirDialogs) {
-    form.cmdButtons_Click(8);
-    form.cmdButtons_Click(10);
+    form.cmdButtons_Click(kOptionsItem);
+    form.cmdButtons_Click(kAboutItem);
     EXPECT_EQ(view.events, (test::Texts{"ShowOptions", "ShowAbout"}));
 }
 
 TEST_F(Form1ClickTest, HelpOpensItsPage) {
-    form.cmdButtons_Click(9);
+    form.cmdButtons_Click(kHelpItem);
     ASSERT_EQ(desktop.shellRequests.size(), 1U);
     const platform::ShellRequest& request = desktop.shellRequests[0];
     EXPECT_EQ(request.verb, "Open");
@@ -126,27 +126,27 @@ TEST_F(Form1ClickTest, HelpOpensItsPage) {
 
 TEST_F(Form1ClickTest, AHelpPageThatCannotBeOpenedIsTold) {
     desktop.shellAnswer = 32;
-    form.cmdButtons_Click(9);
+    form.cmdButtons_Click(kHelpItem);
     EXPECT_EQ(MessageTexts(), test::Texts{"Cannot show the help file"});
     EXPECT_EQ(view.messages[0].title, "Marlo");
 }
 
 TEST_F(Form1ClickTest, TheSearchModeTogglesByItsCaption) {
-    form.cmdButtons_Click(11);
+    form.cmdButtons_Click(kSearchModeItem);
     EXPECT_EQ(view.state.cmdbuttons[11].caption, "List Plugins in Project");
-    form.cmdButtons_Click(11);
+    form.cmdButtons_Click(kSearchModeItem);
     EXPECT_EQ(view.state.cmdbuttons[11].caption, "Search for Projects by Plugin");
 }
 
 TEST_F(Form1ClickTest, CancelMarksItself) {
     EXPECT_EQ(form.CancelTag(), "");
-    form.cmdButtons_Click(12);
+    form.cmdButtons_Click(kCancelItem);
     EXPECT_EQ(form.CancelTag(), "Cancel");
 }
 
 TEST_F(Form1ClickTest, AFailureIsLoggedAndTold) {
     view.failing = "ShowOptions";
-    form.cmdButtons_Click(8);
+    form.cmdButtons_Click(kOptionsItem);
     EXPECT_EQ(MessageTexts(), kUnexpected);
     EXPECT_EQ(Log(), LogLine("cmdButtons_Click", 5, "Invalid procedure call"));
 }
@@ -216,7 +216,7 @@ TEST_F(Form1HoverTest, TheMouseOverTheRightPanesPictureClearsTheSearchModesMark)
 TEST_F(Form1HoverTest, FailuresAreIgnored) {
     view.failing = "Show";
     form.Form_MouseMove();
-    form.cmdbuttons_MouseMove(3);
+    form.cmdbuttons_MouseMove(kUsedReportItem);
     form.cmdbuttons_MouseMove(13);
     EXPECT_EQ(Log(), "");
 }

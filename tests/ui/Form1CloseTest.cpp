@@ -32,7 +32,7 @@ TEST_F(Form1CloseTest, AWindowClosedDuringASearchCancelsItSilentlyAndThenCloses)
             EXPECT_FALSE(form.Form_QueryUnload());
         }
     };
-    form.cmdButtons_Click(0);
+    form.cmdButtons_Click(kSearchItem);
     EXPECT_EQ(MessageTexts(), test::Texts{"Include Subfolders in the search?"});
     EXPECT_EQ(view.events.back(), "Close");
     EXPECT_TRUE(form.Form_QueryUnload());
@@ -43,7 +43,7 @@ TEST_F(Form1CloseTest, AWindowClosedDuringAnInventoryCancelsItSilentlyAndThenClo
     folder.Write("vst/Reverb.dll", "");
     WriteSetting(application, setting::kFirstVstFolder, folder.Path("vst"));
     view.onEvents = [&] { EXPECT_FALSE(form.Form_QueryUnload()); };
-    form.cmdButtons_Click(1);
+    form.cmdButtons_Click(kInventoryItem);
     EXPECT_TRUE(view.messages.empty());
     EXPECT_EQ(view.events.back(), "Close");
 }
@@ -51,12 +51,13 @@ TEST_F(Form1CloseTest, AWindowClosedDuringAnInventoryCancelsItSilentlyAndThenClo
 TEST_F(Form1CloseTest, AWindowCanBeClosedAfterARunThatFailedAltogether) {
     view.failing = "ShowMessage";
     view.folders.answer = folder.Path("songs");
-    EXPECT_THROW(form.cmdButtons_Click(0), RunTimeError) << "not even the failure can be told";
+    EXPECT_THROW(form.cmdButtons_Click(kSearchItem), RunTimeError)
+        << "not even the failure can be told";
     EXPECT_TRUE(form.Form_QueryUnload());
 }
 
 TEST_F(Form1CloseTest, ARunThatWasNotClosedLeavesTheWindowOpen) {
-    form.cmdButtons_Click(1);
+    form.cmdButtons_Click(kInventoryItem);
     EXPECT_EQ(Count("Close"), 0U);
 }
 

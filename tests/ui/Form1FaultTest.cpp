@@ -38,7 +38,7 @@ TEST_F(Form1FaultTest, InAReadOnlyFolderTheWindowStartsAndItsReportsCanBeUsed) {
     {
         const test::OrdinaryUser user;
         form.Form_Load();
-        form.cmdButtons_Click(3);
+        form.cmdButtons_Click(kUsedReportItem);
     }
     EXPECT_EQ(Enabled(), allButCancel);
     EXPECT_EQ(view.searchType, 2);

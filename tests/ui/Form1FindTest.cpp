@@ -41,7 +41,7 @@ TEST_F(Form1FindTest, TheSearchTakesItsTextKindAndCaseFromTheControls) {
 }
 
 TEST_F(Form1FindTest, TheSearchGoesByTheModeThatItsItemShows) {
-    form.cmdButtons_Click(11);
+    form.cmdButtons_Click(kSearchModeItem);
     view.searchText = "song.cpr";
     view.searchType = 2;
     form.cmdFind_Click();
@@ -98,12 +98,12 @@ TEST_F(Form1FindTest, TheHeaderOfTheColumnThatOrdersTheRowsIsKnown) {
     EXPECT_EQ(form.SortedColumn(), 0) << "the order of the file";
     form.lstSongs_ColumnClick(3);
     EXPECT_EQ(form.SortedColumn(), 3);
-    form.cmdButtons_Click(3);
+    form.cmdButtons_Click(kUsedReportItem);
     EXPECT_EQ(form.SortedColumn(), 1) << "a report is sorted by its first column";
 }
 
 TEST_F(Form1FindTest, TheListIsSavedUnderItsTitle) {
-    form.cmdButtons_Click(3);
+    form.cmdButtons_Click(kUsedReportItem);
     form.SaveList(folder.Path("list.html"));
     EXPECT_NE(folder.Read("list.html").find("<h1>Used Plugins</h1>"), std::string::npos);
 }

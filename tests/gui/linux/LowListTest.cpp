@@ -15,7 +15,7 @@ TEST_F(LowListTest, KeysDoNothingInAListWithoutRoomForARow) {
     for (const char* file : {"results.csv", "tln.csv", "fln.csv"})
         folder.Write(std::string("resultfiles/") + file, "");
     Open();
-    Click(Item(4));  // the installed plug-ins
+    Click(Item(kInstalledReportItem));  // the installed plug-ins
     ClickRow(0);
     Window().SetClientSize(Window().GetClientSize().x, 150);
     ASSERT_TRUE(test::RunEventsUntil([&] { return List().GetCountPerPage() == 0; }));
