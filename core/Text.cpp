@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <optional>
 #include <utility>
 
 #include "platform/AnsiCodePage.h"
@@ -11,50 +10,6 @@
 namespace marlo {
 
 namespace {
-
-struct Utf8Form {
-    int length = 0;             ///< bytes
-    char32_t leadBits = 0;      ///< the first byte's share of the character
-    char32_t smallestCode = 0;  ///< below it, the form would be longer than needed
-};
-
-std::optional<Utf8Form> FormOf(unsigned char lead) {
-    if (lead < 0x80)
-        return Utf8Form{1, lead, 0};
-    if ((lead & 0xE0U) == 0xC0)
-        return Utf8Form{2, lead & 0x1FU, 0x80};
-    if ((lead & 0xF0U) == 0xE0)
-        return Utf8Form{3, lead & 0x0FU, 0x800};
-    if ((lead & 0xF8U) == 0xF0)
-        return Utf8Form{4, lead & 0x07U, 0x10000};
-    return std::nullopt;
-}
-
-bool IsScalarValue(char32_t code) {
-    return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF);
-}
-
-std::optional<std::u32string> DecodeUtf8(std::string_view text) {
-    std::u32string decoded;
-    decoded.reserve(text.size());
-    while (!text.empty()) {
-        const auto form = FormOf(static_cast<unsigned char>(text.front()));
-        if (!form || text.size() < static_cast<std::size_t>(form->length))
-            return std::nullopt;
-        char32_t code = form->leadBits;
-        for (int i = 1; i < form->length; ++i) {
-            const auto byte = static_cast<unsigned char>(text[static_cast<std::size_t>(i)]);
-            if ((byte & 0xC0U) != 0x80)
-                return std::nullopt;
-            code = (code << 6U) | (byte & 0x3FU);
-        }
-        if (code < form->smallestCode || !IsScalarValue(code))
-            return std::nullopt;
-        decoded += code;
-        text.remove_prefix(static_cast<std::size_t>(form->length));
-    }
-    return decoded;
-}
 
 /// A stretch of lower-case letters and where their upper-case forms are.
 struct CaseRange {
@@ -87,35 +42,8 @@ constexpr std::array kCaseRanges = {
 }  // namespace
 
 std::u32string Decode(std::string_view field) {
-    auto decoded = DecodeUtf8(field);
+    auto decoded = platform::DecodeUtf8(field);
     return decoded ? std::move(*decoded) : platform::DecodeAnsi(field);
-}
-
-std::string EncodeUtf8(std::u32string_view text) {
-    std::string encoded;
-    encoded.reserve(text.size());
-    const auto append = [&](char32_t byte) { encoded += static_cast<char>(byte); };
-    const auto appendRest = [&](char32_t code, unsigned shift) {
-        append(0x80U | ((code >> shift) & 0x3FU));
-    };
-    for (const char32_t code : text) {
-        if (code < 0x80) {
-            append(code);
-        } else if (code < 0x800) {
-            append(0xC0U | (code >> 6U));
-            appendRest(code, 0);
-        } else if (code < 0x10000) {
-            append(0xE0U | (code >> 12U));
-            appendRest(code, 6);
-            appendRest(code, 0);
-        } else {
-            append(0xF0U | (code >> 18U));
-            appendRest(code, 12);
-            appendRest(code, 6);
-            appendRest(code, 0);
-        }
-    }
-    return encoded;
 }
 
 char32_t UpperCase(char32_t character) {

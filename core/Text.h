@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/AnsiCodePage.h"
+#include "platform/Utf8.h"
 
 namespace marlo {
 
@@ -14,8 +15,7 @@ namespace marlo {
 /// A field as characters: valid UTF-8 as UTF-8, anything else in the system's ANSI code page.
 std::u32string Decode(std::string_view field);
 
-/// Characters as UTF-8.
-std::string EncodeUtf8(std::u32string_view text);
+using platform::EncodeUtf8;
 
 /// A field as UTF-8 for display (see `Decode`).
 inline std::string DecodeToUtf8(std::string_view field) {

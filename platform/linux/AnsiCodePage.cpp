@@ -2,9 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
-
-#include "platform/linux/Utf8.h"
 
 namespace marlo::platform {
 
@@ -53,26 +50,6 @@ std::optional<std::string> EncodeAnsi(std::u32string_view text) {
         encoded += *byte;
     }
     return encoded;
-}
-
-std::string NameFromUtf8(std::string_view name) {
-    if (!IsUtf8(name))
-        return std::string(name);
-    std::u32string characters;
-    characters.reserve(name.size());
-    for (std::string_view rest = name; !rest.empty();)
-        characters += TakeCharacter(rest);
-    auto encoded = EncodeAnsi(characters);
-    return encoded ? std::move(*encoded) : std::string(name);
-}
-
-std::string Utf8FromName(std::string_view name) {
-    if (IsUtf8(name))
-        return std::string(name);
-    std::string utf8;
-    for (const char32_t character : DecodeAnsi(name))
-        AppendUtf8(utf8, character);
-    return utf8;
 }
 
 }  // namespace marlo::platform

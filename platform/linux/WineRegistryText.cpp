@@ -7,7 +7,7 @@
 
 #include "platform/AnsiCodePage.h"
 #include "platform/Registry.h"
-#include "platform/linux/Utf8.h"
+#include "platform/Utf8.h"
 
 namespace marlo::platform {
 

@@ -23,28 +23,16 @@ UINT SystemCodePage() {
     return page;
 }
 
-std::wstring Utf16(UINT page, DWORD flags, std::string_view text) {
+/// Text in the system's code page; empty when it has a byte without a character.
+std::wstring Utf16(std::string_view text) {
     const auto length = static_cast<int>(text.size());
-    std::wstring wide(
-        static_cast<std::size_t>(MultiByteToWideChar(page, flags, text.data(), length, nullptr, 0)),
-        L'\0');
-    MultiByteToWideChar(page, flags, text.data(), length, wide.data(),
-                        static_cast<int>(wide.size()));
+    const auto convert = [&](wchar_t* to, int size) {
+        return MultiByteToWideChar(SystemCodePage(), MB_ERR_INVALID_CHARS, text.data(), length, to,
+                                   size);
+    };
+    std::wstring wide(static_cast<std::size_t>(convert(nullptr, 0)), L'\0');
+    convert(wide.data(), static_cast<int>(wide.size()));
     return wide;
-}
-
-bool IsUtf8(std::string_view text) {
-    return text.empty() || !Utf16(CP_UTF8, MB_ERR_INVALID_CHARS, text).empty();
-}
-
-std::string Utf8(std::wstring_view text) {
-    const auto length = static_cast<int>(text.size());
-    std::string utf8(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(), length,
-                                                                  nullptr, 0, nullptr, nullptr)),
-                     '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), length, utf8.data(), static_cast<int>(utf8.size()),
-                        nullptr, nullptr);
-    return utf8;
 }
 
 std::u32string CharactersOf(std::wstring_view text) {
@@ -94,7 +82,7 @@ std::optional<std::string> InSystemCodePage(std::wstring_view text) {
 }  // namespace
 
 std::u32string DecodeAnsi(std::string_view text) {
-    std::wstring wide = Utf16(SystemCodePage(), MB_ERR_INVALID_CHARS, text);
+    std::wstring wide = Utf16(text);
     if (!wide.empty() || text.empty())
         return CharactersOf(wide);
     std::u32string characters;
@@ -102,7 +90,7 @@ std::u32string DecodeAnsi(std::string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool isPair = i + 1 < text.size() &&
                             IsDBCSLeadByteEx(SystemCodePage(), static_cast<BYTE>(text[i])) != FALSE;
-        wide = Utf16(SystemCodePage(), MB_ERR_INVALID_CHARS, text.substr(i, isPair ? 2 : 1));
+        wide = Utf16(text.substr(i, isPair ? 2 : 1));
         if (wide.empty()) {
             characters += static_cast<unsigned char>(text[i]);
             continue;
@@ -128,16 +116,6 @@ std::optional<std::string> EncodeAnsi(std::u32string_view text) {
             return std::nullopt;
     }
     return encoded;
-}
-
-std::string NameFromUtf8(std::string_view name) {
-    if (!IsUtf8(name))
-        return std::string(name);
-    return EncodeAnsi(CharactersOf(Utf16(CP_UTF8, 0, name))).value_or(std::string(name));
-}
-
-std::string Utf8FromName(std::string_view name) {
-    return IsUtf8(name) ? std::string(name) : Utf8(Utf16Of(DecodeAnsi(name)));
 }
 
 }  // namespace marlo::platform

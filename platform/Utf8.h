@@ -1,9 +1,17 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace marlo::platform {
+
+/// The characters of a text; nothing when it is not UTF-8. Forms that are longer than needed and
+/// halves of surrogate pairs are not.
+std::optional<std::u32string> DecodeUtf8(std::string_view text);
+
+/// Characters as UTF-8.
+std::string EncodeUtf8(std::u32string_view text);
 
 /// Adds a character to `text`.
 void AppendUtf8(std::string& text, char32_t character);
