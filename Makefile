@@ -123,10 +123,14 @@ format: ## Put all sources into the project's format
 	@$(SOURCES) | xargs clang-format -i
 
 lint: build ## Check the format, and the code with clang-tidy
-	@$(PACKAGES) lint bench
+	@$(PACKAGES) lint bench fuzz
 	@$(SOURCES) | xargs clang-format --dry-run -Werror
 	@cmake --preset normal -D MARLO_BENCHMARKS=ON --log-level=WARNING
+	@cmake --preset sanitizer --log-level=WARNING
+	@cmake --preset fuzz --log-level=WARNING
 	@run-clang-tidy -quiet -j 2 -p build/normal '^$(CURDIR)/.*\.cpp$$'
+	@run-clang-tidy -quiet -j 2 -p build/sanitizer '^$(CURDIR)/tests/soak/.*\.cpp$$'
+	@run-clang-tidy -quiet -j 2 -p build/fuzz '^$(CURDIR)/fuzz/.*\.cpp$$'
 
 clean: ## Delete everything that was built
 	rm -rf build
