@@ -28,12 +28,31 @@ constexpr int kLater = 50;  // milliseconds
 
 }  // namespace
 
+/// While one of these lives, the user is asked something over the window, which has to be there
+/// for the answer: it is closed afterwards when the user, or the system, wants that meanwhile.
+class Form1Window::UserIsAsked {
+  public:
+    explicit UserIsAsked(Form1Window& window) : window_(window) { ++window_.openQuestions_; }
+    UserIsAsked(const UserIsAsked&) = delete;
+    UserIsAsked& operator=(const UserIsAsked&) = delete;
+    UserIsAsked(UserIsAsked&&) = delete;
+    UserIsAsked& operator=(UserIsAsked&&) = delete;
+    ~UserIsAsked() {
+        if (--window_.openQuestions_ == 0 && window_.isCloseDue_)
+            window_.closeTimer_.StartOnce(1);  // when what the answer leads to is done
+    }
+
+  private:
+    Form1Window& window_;
+};
+
 Form1Window::Form1Window(const Application& application, const std::string& helpSite)
     : wxFrame(nullptr, wxID_ANY, Shown(std::string(kApplicationTitle)), wxDefaultPosition,
               wxDefaultSize, wxDEFAULT_FRAME_STYLE, "Form1"),
       application_(application),
       timer1_(this, wxWindow::NewControlId()),
       laterTimer_(this, wxWindow::NewControlId()),
+      closeTimer_(this, wxWindow::NewControlId()),
       folders_(this),
       csvIcons_{IconBox(*this), IconBox(*this)},
       form_(application, *this, helpSite),
@@ -108,6 +127,8 @@ void Form1Window::BindTimers() {
                 action();
         },
         laterTimer_.GetId());
+    Bind(
+        wxEVT_TIMER, [this](wxTimerEvent&) { Close(); }, closeTimer_.GetId());
 }
 
 void Form1Window::BindMouseMoves() {
@@ -153,6 +174,7 @@ void Form1Window::BindListEvents() {
 void Form1Window::ShowListMenu() {
     isMenuDue_ = false;
     SelectActiveRow();
+    const UserIsAsked asked(*this);
     ShowResultListMenu(*controls_.lstSongs, form_);
 }
 
@@ -172,11 +194,13 @@ void Form1Window::OpenActiveRow() {
 }
 
 void Form1Window::OnClose(wxCloseEvent& event) {
-    if (!form_.Form_QueryUnload()) {
+    const bool isRunning = !form_.Form_QueryUnload();  // and closes the window when it has ended
+    isCloseDue_ = !isRunning && openQuestions_ > 0;
+    if (isRunning || isCloseDue_) {
         if (event.CanVeto())
             event.Veto();
         else
-            form_.Form_Unload();  // the desktop is shutting down, and may not wait for the run
+            form_.Form_Unload();  // the desktop is shutting down, and may not wait
         return;
     }
     // It is there until all events are handled. A command would outlive it.
@@ -338,14 +362,17 @@ void Form1Window::RemoveListViewLedger() {
 }
 
 MessageAnswer Form1Window::ShowMessage(const Message& message) {
+    const UserIsAsked asked(*this);
     return ShowMessageBox(this, message);
 }
 
 void Form1Window::ShowOptions() {
+    const UserIsAsked asked(*this);
     OptionsDialog(this, application_, csvIcons_[0], csvIcons_[1]).ShowModal();
 }
 
 void Form1Window::ShowAbout() {
+    const UserIsAsked asked(*this);
     AboutDialog(this, PicturePath(application_.folder, "about.gif")).ShowModal();
 }
 

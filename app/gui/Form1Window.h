@@ -62,6 +62,8 @@ class Form1Window final : public wxFrame, private FormView {
     void Close() override;
     using wxFrame::Close;
 
+    class UserIsAsked;
+
     void FollowScreen();
     void BindEvents();
     void BindWindowEvents();
@@ -80,6 +82,7 @@ class Form1Window final : public wxFrame, private FormView {
     const Application& application_;
     wxTimer timer1_;
     wxTimer laterTimer_;
+    wxTimer closeTimer_;
     std::vector<std::function<void()>> later_;
     FolderPicker folders_;
     std::array<IconBox, 2> csvIcons_;
@@ -90,6 +93,8 @@ class Form1Window final : public wxFrame, private FormView {
     wxWindow* lastFocused_ = nullptr;
     wxWindow* focusAfterRun_ = nullptr;
     bool isMenuDue_ = false;
+    int openQuestions_ = 0;    ///< menus and dialogs over the window that wait for the user
+    bool isCloseDue_ = false;  ///< once they are answered
 
     Form1 form_;
     Form1Controls controls_;

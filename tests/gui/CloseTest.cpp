@@ -54,6 +54,46 @@ TEST_F(CloseTest, GoesWhileTheButtonIsDownOnACommand) {
     wxUIActionSimulator().MouseUp();
 }
 
+TEST_F(CloseTest, AnOpenMenuIsAnsweredFirst) {
+    WriteResultFiles();
+    Open();
+    Click(Item(kUsedReportItem));
+    InMenu([&] { ClickRow(1, wxMOUSE_BTN_RIGHT); },
+           [&](wxMenu& /*menu*/) {
+               Window().wxFrame::Close();
+               SendKey(WXK_ESCAPE);
+           });
+    EXPECT_TRUE(test::RunEventsUntil([&] { return !IsWindowOpen(); }));
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(CloseTest, AListIsSavedFirstWhereTheUserIsAskedForItsFile) {
+    WriteResultFiles();
+    Open();
+    Click(Item(kUsedReportItem));
+    dialogs.Handle([&](test::Dialog& chooser) {
+        Window().wxFrame::Close();
+        ChooseInPicker(chooser, folder.Path("list.csv"));
+    });
+    ChooseInMenu(3, [&] { ClickRow(0, wxMOUSE_BTN_RIGHT); });
+    EXPECT_TRUE(folder.Exists("list.csv"));
+    EXPECT_TRUE(test::RunEventsUntil([&] { return !IsWindowOpen(); }));
+}
+
+TEST_F(CloseTest, AnOpenDialogIsAnsweredFirst) {
+    for (const std::size_t item : {kAboutItem, kOptionsItem}) {
+        Open();
+        dialogs.Handle([&](test::Dialog& /*dialog*/) {
+            Window().wxFrame::Close();
+            test::RunDueEvents();
+            EXPECT_TRUE(IsWindowOpen());
+            Press(WXK_ESCAPE);
+        });
+        Click(Item(item));
+        EXPECT_TRUE(test::RunEventsUntil([&] { return !IsWindowOpen(); }));
+    }
+}
+
 TEST_F(CloseTest, EscapeDoesNotCloseTheWindow) {
     Open();
     Press(WXK_ESCAPE);

@@ -82,7 +82,12 @@ bool IsRunning() {
     return cancel != nullptr && cancel->IsEnabled();
 }
 
-/// As the window manager does for the user.
+// As the window manager does for the user:
+
+void Activate(const wxTopLevelWindow& window) {
+    gtk_window_present(GTK_WINDOW(window.GetHandle()));
+}
+
 void AskToClose(const wxTopLevelWindow& window) {
     gtk_window_close(GTK_WINDOW(window.GetHandle()));
 }
@@ -117,12 +122,15 @@ void RandomUser::Act(gui::Form1Window& window) {
         Action{4, "close", &RandomUser::Close},
     };
     wxDialog* const dialog = dialogs_.Top();
+    auto& top = dialog != nullptr ? static_cast<wxTopLevelWindow&>(*dialog) : window;
     if (dialog != nullptr && OpenDialogs::IsPicker(*dialog))
         return AnswerPicker(*dialog);
     if (window.IsIconized() && IsLuck(20))
         return test::Restore(window);
     if (IsMenuOpen() && IsLuck(70))
         return UseMenu();
+    if (!test::HasKeyboard() && IsLuck(20))
+        return Activate(top);
     int left = 0;
     for (const Action& action : kActions)
         left += action.weight;
@@ -132,29 +140,42 @@ void RandomUser::Act(gui::Form1Window& window) {
         if (left > 0)
             continue;
         record_.Count(std::string("done: ") + action.name);
-        auto& top = dialog != nullptr ? static_cast<wxTopLevelWindow&>(*dialog) : window;
         return (this->*action.run)(top);
     }
 }
 
-bool RandomUser::Calm(gui::Form1Window& window) {
+const char* RandomUser::Calm(gui::Form1Window& window) {
     wxDialog* const dialog = dialogs_.Top();
-    if (window.IsIconized())
+    if (window.IsIconized()) {
         test::Restore(window);
-    else if (IsMenuOpen())
-        PressKey(GDK_KEY_Escape,
-                 Modifier::Nothing);  // a menu has the keyboard, whoever had it before
-    else if (dialog != nullptr && OpenDialogs::IsPicker(*dialog))
+        return "minimised";
+    }
+    if (IsMenuOpen()) {
+        // It has the keyboard, whoever had it before.
+        PressKey(GDK_KEY_Escape, Modifier::Nothing);
+        return "a menu";
+    }
+    if (!test::HasKeyboard()) {
+        Activate(dialog != nullptr ? static_cast<wxTopLevelWindow&>(*dialog) : window);
+        return "without the keyboard";
+    }
+    if (dialog != nullptr && OpenDialogs::IsPicker(*dialog)) {
         Press(GDK_KEY_Escape);
-    else if (dialog != nullptr && IsLuck(50))
-        AskToClose(*dialog);
-    else if (dialog != nullptr)
-        Press(IsLuck(50) ? GDK_KEY_Escape : GDK_KEY_Return);  // some questions have to be answered
-    else if (IsRunning())
+        return "a picker";
+    }
+    if (dialog != nullptr) {
+        if (IsLuck(50))
+            AskToClose(*dialog);
+        else
+            // Some questions have to be answered.
+            Press(IsLuck(50) ? GDK_KEY_Escape : GDK_KEY_Return);
+        return "a dialog";
+    }
+    if (IsRunning()) {
         Press(GDK_KEY_Escape);
-    else
-        return gtk_main_level() > 1;
-    return true;
+        return "a run";
+    }
+    return gtk_main_level() > 1 ? "something that waits for events" : nullptr;
 }
 
 wxWindow* RandomUser::AnyControl(wxWindow& window) {

@@ -20,8 +20,9 @@ class RandomUser {
     void Act(gui::Form1Window& window);
 
     /// Does one thing that brings the window nearer to rest.
-    /// @return false when it is at rest: open as usual, without a dialog, a menu or a run.
-    bool Calm(gui::Form1Window& window);
+    /// @return what keeps it from that; nullptr when it is at rest: open as usual, without a
+    /// dialog, a menu or a run.
+    const char* Calm(gui::Form1Window& window);
 
   private:
     struct Action;

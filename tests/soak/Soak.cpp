@@ -50,11 +50,12 @@ void Soak::Notify() {
         return Open();
     NoteRun();
     if (std::chrono::steady_clock::now() < nextRest_)
-        user_.Act(*window_);
-    else if (!user_.Calm(*window_))
+        return user_.Act(*window_);
+    const char* const disturbance = user_.Calm(*window_);
+    if (disturbance == nullptr)
         Rest();
     else if (std::chrono::steady_clock::now() > nextRest_ + kLongestWayToRest)
-        Fail("the window does not come to rest");
+        Fail(std::string("the window does not come to rest: ") + disturbance);
 }
 
 void Soak::Open() {
