@@ -12,9 +12,9 @@
 
 namespace marlo::soak {
 
-/// The window under a random user for some time, in the middle of runs, dialogs and menus, too. It
-/// is opened anew when it has been closed. Every few seconds all is brought to rest, and the heap
-/// looked at.
+/// The window under a random user for some time, in the middle of runs, dialogs and menus, too; for
+/// up to as long again while something that is to happen has not. It is opened anew when it has
+/// been closed. Every few seconds all is brought to rest, and the heap looked at.
 class Soak final : private wxTimer {
   public:
     Soak(std::chrono::seconds time, std::uint32_t seed);
