@@ -69,6 +69,7 @@ coverage: ## Tell which lines of the logic no test runs; fails below 97 %
 	@cmake --preset coverage --log-level=WARNING
 	@cmake --build --preset coverage
 	@find build/coverage -name '*.gcda' -delete
+	@umask 0; build/coverage/marlo/marlo-cli --version >/dev/null  # so that any user may count
 	ctest --preset coverage -j 2
 	@gcovr --root . --object-directory build/coverage --exclude-unreachable-branches \
 		$(foreach room,$(LOGIC),--filter '$(room)/') --sort-percentage --fail-under-line 97 \
