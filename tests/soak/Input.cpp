@@ -3,6 +3,7 @@
 #include <X11/extensions/XTest.h>
 #include <gdk/gdkkeysyms.h>
 #include <gdk/gdkx.h>
+#include <gtk/gtk.h>
 
 namespace marlo::soak {
 
@@ -62,6 +63,13 @@ void PressKey(unsigned key, Modifier modifier) {
     if (modifier != Modifier::Nothing)
         send(KeyOf(modifier), false);
     XFlush(TheDisplay());
+}
+
+void Activate(const wxTopLevelWindow& window) {
+    GtkWidget* const widget = window.GetHandle();
+    GdkWindow* const shown = gtk_widget_get_window(widget);
+    // A present that counts as older than the last input is passed over.
+    gtk_window_present_with_time(GTK_WINDOW(widget), gdk_x11_get_server_time(shown));
 }
 
 }  // namespace marlo::soak

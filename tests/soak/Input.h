@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/gdicmn.h>
+#include <wx/toplevel.h>
 
 namespace marlo::soak {
 
@@ -17,5 +18,8 @@ void ReleaseButton(unsigned button);
 
 /// Presses a key and releases it. @param key as GDK_KEY_….
 void PressKey(unsigned key, Modifier modifier = Modifier::Nothing);
+
+/// Gives a window the keyboard, as the window manager does for the user.
+void Activate(const wxTopLevelWindow& window);
 
 }  // namespace marlo::soak

@@ -82,12 +82,7 @@ bool IsRunning() {
     return cancel != nullptr && cancel->IsEnabled();
 }
 
-// As the window manager does for the user:
-
-void Activate(const wxTopLevelWindow& window) {
-    gtk_window_present(GTK_WINDOW(window.GetHandle()));
-}
-
+/// As the window manager does for the user.
 void AskToClose(const wxTopLevelWindow& window) {
     gtk_window_close(GTK_WINDOW(window.GetHandle()));
 }
