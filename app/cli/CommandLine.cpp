@@ -42,15 +42,7 @@ class CommandLine {
             "--app-folder DIR works with every command.\n"
             "Exit codes: 0 done, 1 something failed (said on the standard error stream),\n"
             "2 wrong usage, 130 cancelled.");
-        AddPlugins();
-        AddSearch();
-        AddInstalled();
-        AddReport();
-        AddFind();
-        AddFolders();
-        AddOptions();
-        AddCommand(app_, "log", "Print when the last runs were, and what was searched",
-                   PrintRunLog);
+        AddCommands();
     }
 
     std::variant<Request, int> Read(std::vector<std::string> arguments) {
@@ -70,17 +62,57 @@ class CommandLine {
     }
 
   private:
-    CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
-                         std::function<int(const Environment&)> command) {
+    void AddCommands() {
+        AddCommand(
+            app_, "plugins", "Print the plug-ins that project files use",
+            [this](const Environment& environment) { return RunPlugins(environment, plugins_); },
+            [this](CLI::App& command) { AddPluginsOptions(command); });
+        AddCommand(
+            app_, "search", "Search a folder of projects and write the result files",
+            [this](const Environment& environment) { return RunSearch(environment, search_); },
+            [this](CLI::App& command) { AddSearchOptions(command); });
+        AddCommand(
+            app_, "installed", "Take the inventory of the plug-ins that are installed here",
+            [this](const Environment& environment) {
+                return RunInstalled(environment, installed_);
+            },
+            [this](CLI::App& command) { AddInstalledOptions(command); });
+        AddCommand(
+            app_, "report", "Print a report from the result files",
+            [this](const Environment& environment) { return RunReport(environment, report_); },
+            [this](CLI::App& command) { AddReportOptions(command); });
+        AddCommand(
+            app_, "find", "Search the result files for a plug-in or a project",
+            [this](const Environment& environment) { return RunFind(environment, find_); },
+            [this](CLI::App& command) { AddFindOptions(command); });
+        AddCommand(app_, "folders", "Print or change the list of VST plug-in folders",
+                   RunFoldersList, [this](CLI::App& command) { AddFoldersCommands(command); });
+        AddCommand(
+            app_, "options", "Print or set the options of the program",
+            [this](const Environment& environment) { return RunOptions(environment, options_); },
+            [this](CLI::App& command) { AddOptionsOptions(command); });
+        AddCommand(app_, "log", "Print when the last runs were, and what was searched", PrintRunLog,
+                   AddNothing);
+    }
+
+    /// @param addOptions adds what the command takes, once the command is given: with the options
+    /// of all commands, the program would take half as long again to start.
+    void AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
+                    std::function<int(const Environment&)> command,
+                    std::function<void(CLI::App&)> addOptions) {
         auto* const added = parent.add_subcommand(name, description);
-        added->set_version_flag("--version", kVersion);
+        added->preparse_callback([added, addOptions = std::move(addOptions)](std::size_t) {
+            added->set_version_flag("--version", kVersion);
+            addOptions(*added);
+        });
         // A command is called back after its own subcommand was.
         added->callback([this, added, command = std::move(command)] {
             if (added->get_subcommands().empty())
                 command_ = command;
         });
-        return added;
     }
+
+    static void AddNothing(CLI::App& /*command*/) {}
 
     /// The command that the arguments name; empty when they name none.
     static std::string CommandIn(const std::vector<std::string>& arguments) {
@@ -95,18 +127,18 @@ class CommandLine {
 
     /// Adds an option that takes one of some names.
     template <class Value, class Target>
-    static CLI::Option* AddChoice(CLI::App* command, const std::string& name, Target& target,
+    static CLI::Option* AddChoice(CLI::App& command, const std::string& name, Target& target,
                                   const std::map<std::string, Value>& choices,
                                   const std::string& description) {
         return command
-            ->add_option_function<std::string>(
+            .add_option_function<std::string>(
                 name,
                 [&target, choices](const std::string& choice) { target = choices.at(choice); },
                 description)
             ->check(CLI::IsMember(choices).description(""));
     }
 
-    static void AddListFormat(CLI::App* command, ListFormat& format) {
+    static void AddListFormat(CLI::App& command, ListFormat& format) {
         AddChoice<ListFormat>(command, "--format", format,
                               {{"table", ListFormat::Table},
                                {"csv", ListFormat::Csv},
@@ -116,14 +148,11 @@ class CommandLine {
             ->type_name("FORMAT");
     }
 
-    void AddPlugins() {
-        auto* const command = AddCommand(
-            app_, "plugins", "Print the plug-ins that project files use",
-            [this](const Environment& environment) { return RunPlugins(environment, plugins_); });
-        command->add_option("FILE", plugins_.files, "The project files")->required()->type_name("");
-        command->add_flag("--merged", plugins_.merged,
-                          "A line for each plug-in of a project rather than for each use; On when "
-                          "any use is on");
+    void AddPluginsOptions(CLI::App& command) {
+        command.add_option("FILE", plugins_.files, "The project files")->required()->type_name("");
+        command.add_flag("--merged", plugins_.merged,
+                         "A line for each plug-in of a project rather than for each use; On when "
+                         "any use is on");
         AddChoice<OutputFormat>(command, "--format", plugins_.format,
                                 {{"table", OutputFormat::Table},
                                  {"csv", OutputFormat::Csv},
@@ -132,42 +161,31 @@ class CommandLine {
             ->type_name("FORMAT");
     }
 
-    void AddSearch() {
-        auto* const command = AddCommand(
-            app_, "search", "Search a folder of projects and write the result files",
-            [this](const Environment& environment) { return RunSearch(environment, search_); });
+    void AddSearchOptions(CLI::App& command) {
         command
-            ->add_option_function<std::string>(
+            .add_option_function<std::string>(
                 "FOLDER", [this](const std::string& folder) { search_.folder = folder; },
                 "The folder to search (default: the one that was searched last)")
             ->type_name("");
-        command->add_flag_callback(
+        command.add_flag_callback(
             "--no-subfolders", [this] { search_.includeSubfolders = false; },
             "Leave the folders inside FOLDER out");
-        command->add_flag("--progress", search_.showProgress, kProgressHelp);
+        command.add_flag("--progress", search_.showProgress, kProgressHelp);
     }
 
-    void AddInstalled() {
-        auto* const command = AddCommand(
-            app_, "installed", "Take the inventory of the plug-ins that are installed here",
-            [this](const Environment& environment) {
-                return RunInstalled(environment, installed_);
-            });
+    void AddInstalledOptions(CLI::App& command) {
         if (platform::HasWinePrefixes())
             command
-                ->add_option_function<std::string>(
+                .add_option_function<std::string>(
                     "--wine-prefix",
                     [this](const std::string& folder) { installed_.winePrefix = folder; },
                     "The Wine prefix whose DirectX plug-ins are listed (default: WINEPREFIX, else "
                     "~/.wine)")
                 ->type_name("DIR");
-        command->add_flag("--progress", installed_.showProgress, kProgressHelp);
+        command.add_flag("--progress", installed_.showProgress, kProgressHelp);
     }
 
-    void AddReport() {
-        auto* const command = AddCommand(
-            app_, "report", "Print a report from the result files",
-            [this](const Environment& environment) { return RunReport(environment, report_); });
+    void AddReportOptions(CLI::App& command) {
         AddChoice<std::string>(
             command, "REPORT", report_.kind,
             {{"used", report_kind::kUsed},
@@ -181,11 +199,8 @@ class CommandLine {
         AddListFormat(command, report_.format);
     }
 
-    void AddFind() {
-        auto* const command = AddCommand(
-            app_, "find", "Search the result files for a plug-in or a project",
-            [this](const Environment& environment) { return RunFind(environment, find_); });
-        command->add_option("TEXT", find_.text, "What to look for")->required()->type_name("");
+    void AddFindOptions(CLI::App& command) {
+        command.add_option("TEXT", find_.text, "What to look for")->required()->type_name("");
         find_.mode = search_mode::kProjectsByPlugin;
         AddChoice<std::string>(command, "--in", find_.mode,
                                {{"plugins", search_mode::kProjectsByPlugin},
@@ -199,39 +214,35 @@ class CommandLine {
                                 {"contains", match_type::kContains}},
                                "How a name matches (default: as chosen last in the window)")
             ->type_name("exact|starts|ends|contains");
-        command->add_flag_callback(
+        command.add_flag_callback(
             "--ignore-case", [this] { find_.ignoreCase = true; },
             "Take capitals and small letters for the same (default: as chosen last)");
-        command->add_flag_callback(
+        command.add_flag_callback(
             "--no-ignore-case", [this] { find_.ignoreCase = false; },
             "Tell capitals from small letters");
         AddListFormat(command, find_.format);
     }
 
-    void AddFolders() {
-        auto* const command = AddCommand(
-            app_, "folders", "Print or change the list of VST plug-in folders", RunFoldersList);
-        AddCommand(*command, "list", "Print the folders (the default)", RunFoldersList);
+    void AddFoldersCommands(CLI::App& command) {
+        AddCommand(command, "list", "Print the folders (the default)", RunFoldersList, AddNothing);
         const auto addChange = [&](const std::string& name, const std::string& description,
                                    int (*change)(const Environment&, const std::string&)) {
-            AddCommand(*command, name, description,
-                       [this, change](const Environment& environment) {
-                           return change(environment, vstFolder_);
-                       })
-                ->add_option("DIR", vstFolder_, "The folder")
-                ->required()
-                ->type_name("");
+            AddCommand(
+                command, name, description,
+                [this, change](const Environment& environment) {
+                    return change(environment, vstFolder_);
+                },
+                [this](CLI::App& added) {
+                    added.add_option("DIR", vstFolder_, "The folder")->required()->type_name("");
+                });
         };
         addChange("add", "Add a folder at the end of the list", RunFoldersAdd);
         addChange("remove", "Take a folder off the list", RunFoldersRemove);
     }
 
-    void AddOptions() {
-        auto* const command = AddCommand(
-            app_, "options", "Print or set the options of the program",
-            [this](const Environment& environment) { return RunOptions(environment, options_); });
+    void AddOptionsOptions(CLI::App& command) {
         command
-            ->add_option_function<std::string>(
+            .add_option_function<std::string>(
                 "--csv-program", [this](const std::string& path) { options_.csvProgram = path; },
                 "The program that opens the CSV result files")
             ->type_name("PATH");
