@@ -95,8 +95,8 @@ class CommandLine {
                    AddNothing);
     }
 
-    /// @param addOptions adds what the command takes, once the command is given: with the options
-    /// of all commands, the program would take half as long again to start.
+    /// @param addOptions adds what the command takes, once the command is given: to add the options
+    /// of all commands would take as long as all else at the program's start.
     void AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
                     std::function<int(const Environment&)> command,
                     std::function<void(CLI::App&)> addOptions) {

@@ -52,6 +52,9 @@ const std::vector<Key>& Keys() {
     return keys;
 }
 
+/// The window manager needs some time for it.
+constexpr int kActivationLuck = 3;
+
 constexpr unsigned kLeftButton = 1;
 constexpr unsigned kRightButton = 3;
 
@@ -124,7 +127,7 @@ void RandomUser::Act(gui::Form1Window& window) {
         return test::Restore(window);
     if (IsMenuOpen() && IsLuck(70))
         return UseMenu();
-    if (!test::HasKeyboard() && IsLuck(20))
+    if (!test::HasKeyboard() && IsLuck(kActivationLuck))
         return Activate(top);
     int left = 0;
     for (const Action& action : kActions)
@@ -151,7 +154,8 @@ const char* RandomUser::Calm(gui::Form1Window& window) {
         return "a menu";
     }
     if (!test::HasKeyboard()) {
-        Activate(dialog != nullptr ? static_cast<wxTopLevelWindow&>(*dialog) : window);
+        if (IsLuck(kActivationLuck))
+            Activate(dialog != nullptr ? static_cast<wxTopLevelWindow&>(*dialog) : window);
         return "without the keyboard";
     }
     if (dialog != nullptr && OpenDialogs::IsPicker(*dialog)) {

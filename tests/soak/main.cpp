@@ -59,7 +59,8 @@ std::string_view MessageIn(const GLogField* fields, gsize count) {
 /// Whether GTK has come from its event loop to what it complains of without any other code: its
 /// picker works on when it is gone.
 bool HasGtkDoneItAlone() {
-    constexpr std::array libraries = {"libgtk-3.", "libgdk-3.", "libglib-2.", "libgobject-2."};
+    constexpr std::array libraries = {"libgtk-3.", "libgdk-3.", "libglib-2.", "libgobject-2.",
+                                      "libgio-2."};
     std::array<void*, 100> stack{};
     const auto depth = static_cast<std::size_t>(backtrace(stack.data(), stack.size()));
     bool isInGtk = false;  // else still in this program, which has been told of the complaint
