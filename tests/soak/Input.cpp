@@ -66,10 +66,11 @@ void PressKey(unsigned key, Modifier modifier) {
 }
 
 void Activate(const wxTopLevelWindow& window) {
-    GtkWidget* const widget = window.GetHandle();
-    GdkWindow* const shown = gtk_widget_get_window(widget);
-    // A present that counts as older than the last input is passed over.
-    gtk_window_present_with_time(GTK_WINDOW(widget), gdk_x11_get_server_time(shown));
+    GdkDisplay* const display = gdk_display_get_default();
+    gdk_x11_display_error_trap_push(display);  // it may not be on the screen yet
+    XSetInputFocus(TheDisplay(), GDK_WINDOW_XID(gtk_widget_get_window(window.GetHandle())),
+                   RevertToParent, CurrentTime);
+    gdk_x11_display_error_trap_pop_ignored(display);
 }
 
 }  // namespace marlo::soak

@@ -19,7 +19,7 @@ void ReleaseButton(unsigned button);
 /// Presses a key and releases it. @param key as GDK_KEY_….
 void PressKey(unsigned key, Modifier modifier = Modifier::Nothing);
 
-/// Gives a window the keyboard, as the window manager does for the user.
+/// Gives a window the keyboard. A window manager that is asked for it does not always do it.
 void Activate(const wxTopLevelWindow& window);
 
 }  // namespace marlo::soak
