@@ -233,14 +233,14 @@ void RandomUser::RightClick(wxTopLevelWindow& window) {
 }
 
 void RandomUser::TurnPage(wxTopLevelWindow& window) {
-    constexpr int tabHeight = 30;
     std::vector<wxWindow*> shown;
     CollectShown(window, shown);
-    for (const wxWindow* control : shown)
-        if (dynamic_cast<const wxBookCtrlBase*>(control) != nullptr) {
-            MoveMouse(control->GetScreenPosition() +
-                      wxPoint(Number(0, control->GetSize().x), Number(0, tabHeight)));
-            ClickHere();
+    for (wxWindow* const control : shown)
+        if (auto* const book = dynamic_cast<wxBookCtrlBase*>(control)) {
+            book->SetSelection(
+                static_cast<std::size_t>(Number(0, static_cast<int>(book->GetPageCount()) - 1)));
+            if (IsLuck(50))
+                ClickButtonIn(*book->GetCurrentPage());
         }
 }
 
@@ -253,6 +253,10 @@ void RandomUser::Drag(wxTopLevelWindow& window) {
 }
 
 void RandomUser::ClickButton(wxTopLevelWindow& window) {
+    ClickButtonIn(window);
+}
+
+void RandomUser::ClickButtonIn(wxWindow& window) {
     std::vector<wxWindow*> shown;
     CollectShown(window, shown);
     std::erase_if(shown, [](const wxWindow* control) {

@@ -46,6 +46,7 @@ class RandomUser {
     void Drag(wxTopLevelWindow& window);
     void TurnPage(wxTopLevelWindow& window);
     void ClickButton(wxTopLevelWindow& window);
+    void ClickButtonIn(wxWindow& window);
     void PressAnyKey(wxTopLevelWindow& window);
     void Resize(wxTopLevelWindow& window);
     void Move(wxTopLevelWindow& window);
