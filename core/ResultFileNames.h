@@ -1,14 +1,12 @@
 #pragma once
 
-namespace marlo {
-
 /// The files of the result folder, as `ApplicationPath` takes them.
-namespace result_file {
+namespace marlo::result_file {
+
 inline constexpr const char* kOccurrences = "\\resultfiles\\results.csv";
 inline constexpr const char* kProjectPlugins = "\\resultfiles\\fln.csv";
 inline constexpr const char* kUsedPlugins = "\\resultfiles\\tln.csv";
 inline constexpr const char* kInstalledPlugins = "\\resultfiles\\installedplugins.csv";
 inline constexpr const char* kErrorLog = "\\resultfiles\\errorlog.txt";
-}  // namespace result_file
 
-}  // namespace marlo
+}  // namespace marlo::result_file

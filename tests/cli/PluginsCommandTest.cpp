@@ -84,6 +84,15 @@ TEST_F(PluginsCommandTest, AFileThatCannotBeScannedIsSaidAndTheOthersArePrinted)
               "marlo-cli: GetPlugins4Project " + gone + " : File not found (error 53)\n");
 }
 
+TEST_F(PluginsCommandTest, OfALongPathThatIsSaidTheBeginningIsShownInWholeCharacters) {
+    const std::string beginning = "GetPlugins4Project " + folder.Path();
+    // The 300th byte is the first one of a character.
+    const std::string rest = "/" + std::string(298 - beginning.size(), 'x');
+    const std::string gone = folder.Path() + rest + "\u00E9" + std::string(100, 'y') + ".cpr";
+    const std::string error = Marlo({"plugins", gone}).error;
+    EXPECT_TRUE(error.starts_with("marlo-cli: " + beginning + rest + " ...: ")) << error;
+}
+
 TEST_F(PluginsCommandTest, ARelativePathIsListedAsASearchWouldListIt) {
     const std::string path = AddProject("a.cpr", {{.name = "Delay"}});
     EXPECT_EQ(test::Run({MARLO_CLI, "plugins", "./a.cpr", "--format", "csv"}, Songs()).out,

@@ -97,9 +97,9 @@ TEST_F(ListPageTest, NothingInAFieldIsMarkup) {
 }
 
 TEST_F(ListPageTest, WhatTurnsTheWritingDirectionStaysInItsCell) {
-    // NOLINTNEXTLINE(misc-misleading-bidirectional): that is what it is about.
-    Add("\xE2\x80\xAEtxt.rpc", "VST");
-    EXPECT_TRUE(HtmlHas("<td>\u202Etxt.rpc</td><td>VST</td>"));
+    const std::string name = "\xE2\x80\xAE" + std::string("txt.rpc");  // from right to left
+    Add(name, "VST");
+    EXPECT_TRUE(HtmlHas("<td>" + name + "</td><td>VST</td>"));
     EXPECT_TRUE(HtmlHas("td { padding: .3rem .75rem; unicode-bidi: isolate;"));
 }
 

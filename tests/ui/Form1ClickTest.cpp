@@ -198,6 +198,12 @@ TEST_F(Form1HoverTest, TheMouseOverAnItemMarksIt) {
     EXPECT_EQ(Hovered().size(), 13U);
 }
 
+TEST_F(Form1HoverTest, AMarkedItemIsNotShownAgainWhileTheMouseMovesOverIt) {
+    view.state = {};
+    form.cmdbuttons_MouseMove(kSearchItem);
+    EXPECT_TRUE(Hovered().empty());
+}
+
 TEST_F(Form1HoverTest, TheMouseOverTheWindowClearsEveryMark) {
     form.Form_MouseMove();
     EXPECT_TRUE(Hovered().empty());

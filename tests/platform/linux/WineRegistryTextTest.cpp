@@ -24,7 +24,7 @@ std::string Find(std::string_view lines, std::string_view name = "v") {
 
 TEST(UnescapeTest, EscapesStandForCharacters) {
     EXPECT_EQ(Unescaped(R"("C:\\Effects\\a \"b\"")"), R"(C:\Effects\a "b")");
-    EXPECT_EQ(Unescaped(R"("\n\r\t\0\e")"), "\n\r\t\0\x1b"s);
+    EXPECT_EQ(Unescaped(R"("\n\r\t\0\e\a\b\f\v")"), "\n\r\t\0\x1b\a\b\f\v"s);
     EXPECT_EQ(Unescaped(R"("\[x\]")"), "[x]");
 }
 
