@@ -365,6 +365,13 @@ TEST_F(LocalPathTest, TheExactNameGoesBeforeOneOfAnotherCase) {
     EXPECT_EQ(prefix.LocalPath("C:\\Vst"), InDrive("VST")) << "the first by its bytes";
 }
 
+TEST_F(LocalPathTest, AFileIsFoundWithoutRegardToCaseToo) {
+    folder.Write("drive_c/Program Files/Sheets.EXE", "");
+    const std::string expected = InDrive("Program Files/Sheets.EXE");
+    EXPECT_EQ(prefix.LocalPath("C:\\PROGRAM FILES\\sheets.exe"), expected);
+    EXPECT_EQ(prefix.LocalPath("C:\\Program Files\\sheets.exe\\below"), "");
+}
+
 TEST_F(LocalPathTest, WhatLeadsNowhereIsEmpty) {
     for (const auto& path : {"C:\\gone"s, "Q:\\"s, "\\\\server\\share"s, "relative"s, ""s, "C"s,
                              "C:\\Program\0 Files"s})
