@@ -55,7 +55,7 @@ void WalkPrefix(State& state, std::size_t size) {
     }
 }
 
-constexpr int kListed = 1000;
+constexpr std::size_t kListed = 1000;
 
 std::string ListedName(std::size_t question) {
     return "Plug-in " + std::to_string(question % (2 * kListed));
@@ -67,7 +67,7 @@ void AskList(State& state, std::size_t questions) {
     const std::string path = ApplicationPath(application, "\\resultfiles\\installedplugins.csv");
     std::filesystem::create_directories(application.folder + "/resultfiles");
     std::ofstream file(path, std::ios::binary);
-    for (int i = 0; i < kListed; ++i)
+    for (std::size_t i = 0; i < kListed; ++i)
         file << "\"VST\",\"Plug-in " << i << "\",\"/vst/Plug-in " << i << ".dll\"\r\n";
     file.close();
     for (auto iteration : state) {
@@ -83,7 +83,7 @@ void AskList(State& state, std::size_t questions) {
 /// The same questions to a set that is in memory.
 void AskSet(State& state, std::size_t questions) {
     std::unordered_set<std::string> names;
-    for (int i = 0; i < kListed; ++i)
+    for (std::size_t i = 0; i < kListed; ++i)
         names.insert("Plug-in " + std::to_string(i));
     for (auto iteration : state) {
         std::size_t found = 0;

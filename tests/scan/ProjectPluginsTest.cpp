@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -324,7 +325,8 @@ TEST_F(ProjectPluginsTest, AProjectOf4GiBIsScannedWithin16MiB) {
 }
 
 TEST_F(ProjectPluginsTest, ARealProjectHasItsSevenPlugins) {
-    const std::string path = MARLO_REAL_PROJECT;
+    const std::string_view given = MARLO_REAL_PROJECT;
+    const std::string path(given);
     if (!std::filesystem::exists(path))
         GTEST_SKIP() << "no real project at hand";
     EXPECT_TRUE(GetPlugins4Project(application, lists, path));
