@@ -25,13 +25,13 @@ std::uint16_t Pair(const void* bytes) {
 [[gnu::always_inline]] inline bool MayHoldMarker(const unsigned char* chunk) {
     const std::uint16_t firstTwo = Pair(kBankMarker.data());
     const std::uint16_t middleTwo = Pair(kBankMarker.data() + 1);
-    std::uint16_t found = 0;
+    std::uint16_t leastDifference = 0xFFFF;
     for (std::size_t i = 0; i < kChunk; i += 2) {
         const std::uint16_t pair = Pair(chunk + i);
-        const bool mayBe = pair == firstTwo || pair == middleTwo;
-        found = static_cast<std::uint16_t>(found | static_cast<std::uint16_t>(mayBe));
+        leastDifference = std::min(leastDifference, static_cast<std::uint16_t>(pair ^ firstTwo));
+        leastDifference = std::min(leastDifference, static_cast<std::uint16_t>(pair ^ middleTwo));
     }
-    return found != 0;
+    return leastDifference == 0;
 }
 
 [[gnu::always_inline]] inline const unsigned char* Find(const unsigned char* first,

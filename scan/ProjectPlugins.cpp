@@ -1,7 +1,6 @@
 #include "scan/ProjectPlugins.h"
 
 #include <string_view>
-#include <utility>
 
 #include "core/ErrorLog.h"
 #include "core/LineReader.h"
@@ -32,15 +31,15 @@ class RecordCollector {
         const std::string_view state = bank.isOn ? kOn : kOff;
         // The name may be longer than memory, so its records are accounted for before it is read.
         const auto nameLength = static_cast<std::size_t>(bank.nameEnd - bank.nameStart);
-        const std::size_t keyLength = QuotedFields({path_, "", type}).size() + nameLength;
-        Account(keyLength + Quoted(state).size() + 1);
+        const std::size_t keyLength =
+            path_.size() + nameLength + type.size() + std::string_view(R"("","","")").size();
+        const std::size_t stateLength = state.size() + std::string_view(R"(,"")").size();
+        Account(keyLength + stateLength);
 
-        const std::string name = reader.Text(bank.nameStart, bank.nameEnd);
-        std::string key = QuotedFields({path_, name, type});
-        lastRecord_ = key + "," + Quoted(state);
+        lastRecord_ = QuotedFields({path_, reader.Text(bank.nameStart, bank.nameEnd), type, state});
         lists_.PluginOccurrences.Append(lastRecord_);
 
-        lastRecord_ = std::move(key);
+        lastRecord_.erase(lastRecord_.size() - stateLength);
         lists_.ProjectPluginKeys.Merge(lastRecord_, state, [&] { Account(keyLength); });
     }
 
