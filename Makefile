@@ -79,9 +79,11 @@ bench: ## Measure speed against baselines from the same run
 	@$(PACKAGES) build bench
 	@cmake --preset release --log-level=WARNING
 	@cmake --build --preset release
-	build/release/bench/marlo-bench --benchmark_enable_random_interleaving=true
+	@failed=0; \
+	build/release/bench/marlo-bench --benchmark_enable_random_interleaving=true || failed=1; \
 	tests/gui/with-display build/release/bench/marlo-bench-window \
-		--benchmark_enable_random_interleaving=true
+		--benchmark_enable_random_interleaving=true || failed=1; \
+	exit $$failed
 
 bench-counts: ## Count the instructions of the hot paths, and compare with those in bench/counts.txt
 	@$(PACKAGES) build bench
