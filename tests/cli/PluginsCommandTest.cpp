@@ -85,12 +85,13 @@ TEST_F(PluginsCommandTest, AFileThatCannotBeScannedIsSaidAndTheOthersArePrinted)
 }
 
 TEST_F(PluginsCommandTest, OfALongPathThatIsSaidTheBeginningIsShownInWholeCharacters) {
-    const std::string beginning = "GetPlugins4Project " + folder.Path();
+    const std::string procedure = "GetPlugins4Project ";
     // The 300th byte is the first one of a character.
-    const std::string rest = "/" + std::string(298 - beginning.size(), 'x');
-    const std::string gone = folder.Path() + rest + "\u00E9" + std::string(100, 'y') + ".cpr";
+    const std::size_t others = (procedure + folder.Path("x")).size() - 1;
+    const std::string path = folder.Path(std::string(299 - others, 'x'));
+    const std::string gone = path + "\u00E9" + std::string(100, 'y') + ".cpr";
     const std::string error = Marlo({"plugins", gone}).error;
-    EXPECT_TRUE(error.starts_with("marlo-cli: " + beginning + rest + " ...: ")) << error;
+    EXPECT_TRUE(error.starts_with("marlo-cli: " + procedure + path + " ...: ")) << error;
 }
 
 TEST_F(PluginsCommandTest, ARelativePathIsListedAsASearchWouldListIt) {
