@@ -128,7 +128,7 @@ void Form1Window::BindTimers() {
         },
         laterTimer_.GetId());
     Bind(
-        wxEVT_TIMER, [this](wxTimerEvent&) { Close(); }, closeTimer_.GetId());
+        wxEVT_TIMER, [this](wxTimerEvent&) { wxFrame::Close(); }, closeTimer_.GetId());
 }
 
 void Form1Window::BindMouseMoves() {

@@ -288,6 +288,7 @@ void RandomUser::Minimise(wxTopLevelWindow& window) {
         window.Iconize();
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): one of the actions.
 void RandomUser::Close(wxTopLevelWindow& window) {
     AskToClose(window);
 }

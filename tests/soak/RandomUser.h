@@ -36,7 +36,7 @@ class RandomUser {
     wxWindow* AnyControl(wxWindow& window);
     wxPoint AnyPointIn(const wxWindow& control);
     void MoveInto(wxWindow& control);
-    void Press(unsigned key, Modifier modifier = Modifier::Nothing);
+    static void Press(unsigned key, Modifier modifier = Modifier::Nothing);
 
     void AnswerPicker(wxDialog& picker);
     void UseMenu();
