@@ -108,7 +108,7 @@ const bool registered = [] {
               .mostRatio = 6,
               .mostGrowth = 2});
     RegisterHostile("only-Cs", OnlyCs, 3);
-    // These take as long as 256 MiB of record text take, the limit, whatever the file's size.
+    // These end at the limit on record text, beside which reading a file of some MiB is nothing.
     RegisterHostile("chained-banks", ChainedBanks, 400);
     RegisterHostile("banks-that-share-a-name", BanksThatShareAName, 400);
     RegisterHostile("chained-banks-without-end", ChainedBanksWithoutEnd, 10);

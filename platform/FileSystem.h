@@ -39,7 +39,7 @@ class Folder {
     static Folder Open(const std::string& path, std::error_code& error);
 
     Folder(Folder&& other) noexcept;
-    Folder& operator=(Folder&& other) noexcept;
+    Folder& operator=(Folder&&) = delete;
     Folder(const Folder&) = delete;
     Folder& operator=(const Folder&) = delete;
     ~Folder();

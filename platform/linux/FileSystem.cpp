@@ -49,11 +49,6 @@ Folder Folder::Open(const std::string& path, std::error_code& error) {
 
 Folder::Folder(Folder&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
 
-Folder& Folder::operator=(Folder&& other) noexcept {
-    std::swap(handle_, other.handle_);
-    return *this;
-}
-
 Folder::~Folder() {
     if (handle_ != nullptr)
         closedir(static_cast<DIR*>(handle_));

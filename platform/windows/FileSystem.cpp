@@ -64,11 +64,6 @@ Folder Folder::Open(const std::string& path, std::error_code& error) {
 
 Folder::Folder(Folder&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
 
-Folder& Folder::operator=(Folder&& other) noexcept {
-    std::swap(handle_, other.handle_);
-    return *this;
-}
-
 Folder::~Folder() {
     const std::unique_ptr<OpenFolder> folder(static_cast<OpenFolder*>(handle_));
     if (folder)

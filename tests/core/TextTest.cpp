@@ -54,6 +54,10 @@ TEST(TextTest, UpperCaseKnowsGreekAndCyrillic) {
     EXPECT_EQ(UpperCase(U"\u03B1\u03C2\u03CE\u0436\u0451"), U"\u0391\u03A3\u038F\u0416\u0401");
 }
 
+TEST(TextTest, UpperCaseLeavesTheCapitalsBetweenSmallLetters) {
+    EXPECT_EQ(UpperCase(U"\u0102\u0103\u0141\u0142"), U"\u0102\u0102\u0141\u0141");
+}
+
 TEST(TextTest, UpperCaseLeavesWhatHasNoSingleCapital) {
     EXPECT_EQ(UpperCase(U"\u00DF\u00F7\u00D7\u0149 1[{\u66F2"),
               U"\u00DF\u00F7\u00D7\u0149 1[{\u66F2");

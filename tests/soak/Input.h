@@ -19,7 +19,7 @@ void ReleaseButton(unsigned button);
 /// Presses a key and releases it. @param key as GDK_KEY_….
 void PressKey(unsigned key, Modifier modifier = Modifier::Nothing);
 
-/// Gives a window the keyboard. A window manager that is asked for it does not always do it.
+/// Gives a window the keyboard, which a click does not do here: the window manager takes none.
 void Activate(const wxTopLevelWindow& window);
 
 }  // namespace marlo::soak

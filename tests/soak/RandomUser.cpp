@@ -52,7 +52,7 @@ const std::vector<Key>& Keys() {
     return keys;
 }
 
-/// The window manager needs some time for it.
+/// It takes a while until the window has heard of it.
 constexpr int kActivationLuck = 3;
 
 constexpr unsigned kLeftButton = 1;
