@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 namespace marlo {
 
@@ -11,8 +12,10 @@ inline constexpr std::string_view kBankMarker = "CcnK";
 /// Goes through memory at several times the speed of a file that is read from the page cache.
 const unsigned char* FindMarker(const unsigned char* first, const unsigned char* last);
 
-/// The same with the instructions that every processor has: what `FindMarker` does on one without
-/// anything better.
-const unsigned char* FindMarkerPortably(const unsigned char* first, const unsigned char* last);
+using MarkerSearch = const unsigned char* (*)(const unsigned char* first,
+                                              const unsigned char* last);
+
+/// The searches that this processor can do, the fastest first; that one is `FindMarker`.
+const std::vector<MarkerSearch>& MarkerSearches();
 
 }  // namespace marlo
