@@ -26,7 +26,7 @@ void ScanAll(State& state, const std::vector<std::string>& paths) {
         SearchLists lists;
         for (const std::string& path : paths)
             GetPlugins4Project(application, lists, path);
-        found = lists.PluginOccurrences.UpperBound();
+        found = lists.PluginOccurrences.size();
     }
     state.counters["banks"] = static_cast<double>(found);
 }

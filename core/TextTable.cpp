@@ -1,7 +1,6 @@
 #include "core/TextTable.h"
 
 #include <algorithm>
-#include <functional>
 #include <limits>
 #include <stdexcept>
 #include <utility>
@@ -29,17 +28,23 @@ std::optional<std::size_t> TextTable::Find(std::string_view text) const {
 }
 
 bool TextTable::Add(std::string_view text) {
+    const std::size_t oldSize = Size();
+    return FindOrAdd(text, [] {}) == oldSize;
+}
+
+std::size_t TextTable::FindOrAdd(std::string_view text, const std::function<void()>& beforeAdding) {
     if (slots_.size() * 7 < 8 * (texts_.size() + 1))
         Grow();
     const std::size_t hash = std::hash<std::string_view>()(text);
     Slot& slot = slots_[SlotFor(text, hash)];
     if (slot.number != 0)
-        return false;
+        return slot.number - 1;
     if (texts_.size() == std::numeric_limits<std::uint32_t>::max())
         throw std::length_error("too many texts");
+    beforeAdding();
     texts_.push_back(arena_.Copy(text));
     slot = {static_cast<std::uint32_t>(texts_.size()), TagOf(hash)};
-    return true;
+    return texts_.size() - 1;
 }
 
 void TextTable::Clear() {

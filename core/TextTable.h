@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,11 @@ class TextTable {
     /// @return false when it is there already.
     /// @throws std::length_error when there are as many texts as the table can number.
     bool Add(std::string_view text);
+
+    /// The number of a text, of which a copy is added when it is not in the table yet.
+    /// @param beforeAdding called before that; may throw to prevent it.
+    /// @throws std::length_error as `Add` does.
+    std::size_t FindOrAdd(std::string_view text, const std::function<void()>& beforeAdding);
 
     /// Memory that lives as long as the texts.
     TextArena& Arena() { return arena_; }

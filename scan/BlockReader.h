@@ -17,16 +17,16 @@ using Position = std::int64_t;
 
 /// Reads single bytes of a file, anywhere in it, through a few large blocks.
 ///
-/// However long the file, no more than `kBlockCount` blocks of it are in memory. Several blocks
-/// are kept so that a reader who looks back or ahead returns to a block that is still there. All of
-/// them fit the second-level cache of today's processors.
+/// However long the file, no more than `kBlockCount` blocks of it are in memory. The block before
+/// the current one is kept, as a plug-in's description may begin there. Both fit the second-level
+/// cache of today's processors.
 ///
 /// Every routine throws `RunTimeError` when reading fails, and "Bad record number" for a position
 /// before the start of the file.
 class BlockReader {
   public:
-    static constexpr std::size_t kBlockSize = std::size_t{128} * 1024;  ///< bytes
-    static constexpr std::size_t kBlockCount = 4;
+    static constexpr std::size_t kBlockSize = std::size_t{256} * 1024;  ///< bytes
+    static constexpr std::size_t kBlockCount = 2;
 
     /// Opens the file at `path`.
     explicit BlockReader(const std::string& path);

@@ -36,11 +36,10 @@ class RecordCollector {
         const std::size_t stateLength = state.size() + std::string_view(R"(,"")").size();
         Account(keyLength + stateLength);
 
-        lastRecord_ = QuotedFields({path_, reader.Text(bank.nameStart, bank.nameEnd), type, state});
-        lists_.PluginOccurrences.Append(lastRecord_);
-
-        lastRecord_.erase(lastRecord_.size() - stateLength);
-        lists_.ProjectPluginKeys.Merge(lastRecord_, state, [&] { Account(keyLength); });
+        lastRecord_ = QuotedFields({path_, reader.Text(bank.nameStart, bank.nameEnd), type});
+        const PluginState plugin =
+            lists_.ProjectPluginKeys.Merge(lastRecord_, state, [&] { Account(keyLength); });
+        lists_.PluginOccurrences.push_back({plugin.key, state});
     }
 
   private:

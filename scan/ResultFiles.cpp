@@ -12,23 +12,15 @@ namespace marlo {
 
 namespace {
 
-bool WriteOccurrences(const Application& application, MainWindow& window,
-                      const TextList& occurrences) {
-    StagedFile file(application, window, result_file::kOccurrences);
-    if (!file.Create())
-        return false;
-    for (const std::string_view occurrence : occurrences)
-        file.Lines().WriteLine(occurrence);
-    return file.MoveIntoPlace();
-}
-
+/// Writes a line for each of `plugins`.
+template <class PluginStates>
 bool WriteStates(const Application& application, MainWindow& window, std::string_view relativePath,
-                 const MergedStates& states) {
+                 const PluginStates& plugins) {
     StagedFile file(application, window, relativePath);
     if (!file.Create())
         return false;
-    for (const auto& [key, state] : states)
-        file.Lines().WriteLine(std::string(key) + "," + Quoted(state));
+    for (const PluginState& plugin : plugins)
+        file.Lines().WriteLine(RecordOf(plugin));
     return file.MoveIntoPlace();
 }
 
@@ -58,7 +50,7 @@ bool CreateResultFiles(const Application& application, MainWindow& window,
                        const SearchLists& lists) {
     bool ok = true;
     const bool completed = RunGuarded(application, "CreateResultFiles", [&] {
-        if (!WriteOccurrences(application, window, lists.PluginOccurrences))
+        if (!WriteStates(application, window, result_file::kOccurrences, lists.PluginOccurrences))
             return;
         if (!WriteStates(application, window, result_file::kProjectPlugins,
                          lists.ProjectPluginKeys))

@@ -23,29 +23,34 @@ void TextList::Append(std::string_view text) {
     texts_.push_back(arena_.Copy(text));
 }
 
-const MergedStates::Entry& MergedStates::operator[](std::size_t index) const {
+const PluginState& MergedStates::operator[](std::size_t index) const {
     return EntryAt(entries_, index);
 }
 
-MergedStates::Entry MergedStates::Merge(std::string_view key, std::string_view state,
-                                        const std::function<void()>& beforeAdding) {
-    const std::string_view merged = state == kOn ? kOn : kOff;
-    if (const auto number = keys_.Find(key)) {
-        Entry& entry = entries_[*number];
-        if (merged == kOn)
-            entry.state = kOn;
-        return entry;
-    }
-    beforeAdding();
-    entries_.push_back({{}, merged});
+PluginState MergedStates::Merge(std::string_view key, std::string_view state,
+                                const std::function<void()>& beforeAdding) {
+    std::size_t number = 0;
     try {
-        keys_.Add(key);
+        number = keys_.FindOrAdd(key, [&] {
+            beforeAdding();
+            entries_.push_back({{}, kOff});
+        });
     } catch (...) {
-        entries_.pop_back();
+        entries_.resize(keys_.Size());
         throw;
     }
-    entries_.back().key = keys_[keys_.Size() - 1];
-    return entries_.back();
+    PluginState& entry = entries_[number];
+    entry.key = keys_[number];
+    if (state == kOn)
+        entry.state = kOn;
+    return entry;
+}
+
+std::string RecordOf(const PluginState& plugin) {
+    std::string record;
+    record.reserve(plugin.key.size() + plugin.state.size() + std::string_view(R"(,"")").size());
+    record.append(plugin.key).append(",\"").append(plugin.state).append("\"");
+    return record;
 }
 
 }  // namespace marlo

@@ -87,7 +87,7 @@ void WriteResults(const Application& application, MainWindow& window, SearchList
     window.SetText1("(3) Writing to file...");
     window.SetText2("");
     window.Repaint();
-    summary.occurrences = lists.PluginOccurrences.UpperBound();
+    summary.occurrences = lists.PluginOccurrences.size();
     summary.projectPlugins = lists.ProjectPluginKeys.UpperBound();
     if (CreateResultFiles(application, window, lists)) {
         summary.outcome = SearchOutcome::Written;

@@ -21,47 +21,35 @@ namespace marlo::cli {
 
 namespace {
 
-/// A line of the output: a key record and a state, and the project that they are about.
+/// A line of the output: a plug-in with its state, and the project that it is in.
 struct Line {
     std::string_view project;
-    std::string_view key;
-    std::string_view state;
+    PluginState plugin;
 };
 
-/// A project, and where its records end in the list that is printed.
+/// A project, and how many plug-ins the list that is printed has with it and those before it.
 struct ScannedFile {
     std::string path;
-    std::size_t lastIndex = 0;
+    std::size_t countBehind = 0;
 };
-
-/// An occurrence record is a key record, a comma and the state in quotes.
-Line LineOfOccurrence(std::string_view project, std::string_view occurrence) {
-    const std::size_t comma = occurrence.rfind(',');
-    const std::string_view stateField = occurrence.substr(comma + 1);
-    return {project, occurrence.substr(0, comma), stateField.substr(1, stateField.size() - 2)};
-}
-
-Line LineOfKey(std::string_view project, const MergedStates::Entry& entry) {
-    return {project, entry.key, entry.state};
-}
 
 /// The name may hold commas and quotes of its own, so it is what the fields around it leave over.
 std::string_view NameIn(const Line& line) {
     constexpr std::size_t typeFieldLength = std::string_view(R"(,"DirectX")").size();
     const std::size_t start = line.project.size() + std::string_view(R"("",")").size();
-    const std::size_t end = line.key.size() - typeFieldLength - 1;
-    return line.key.substr(start, end - start);
+    const std::size_t end = line.plugin.key.size() - typeFieldLength - 1;
+    return line.plugin.key.substr(start, end - start);
 }
 
 std::string_view TypeIn(const Line& line) {
     constexpr std::size_t typeLength = std::string_view("DirectX").size();
-    return TrimSpaces(line.key.substr(line.key.size() - typeLength - 1, typeLength));
+    return TrimSpaces(line.plugin.key.substr(line.plugin.key.size() - typeLength - 1, typeLength));
 }
 
 void PrintCsv(const std::vector<Line>& lines) {
     const bool raw = !platform::IsTerminal(platform::Stream::Out);
     for (const Line& line : lines) {
-        const std::string record = std::string(line.key) + "," + Quoted(line.state);
+        const std::string record = RecordOf(line.plugin);
         if (raw)
             std::cout << record << "\r\n";
         else
@@ -76,7 +64,7 @@ void PrintJson(const std::vector<Line>& lines) {
         uses.AddText("project", line.project);
         uses.AddText("plugin", NameIn(line));
         uses.AddText("type", TypeIn(line));
-        uses.AddText("state", line.state);
+        uses.AddText("state", line.plugin.state);
     }
     uses.End();
 }
@@ -84,8 +72,8 @@ void PrintJson(const std::vector<Line>& lines) {
 void PrintTable(const std::vector<Line>& lines) {
     Table table({"Plug-in", "Type", "State", "Project"}, MaxColumnWidth());
     for (const Line& line : lines)
-        table.AddRow({std::string(NameIn(line)), std::string(TypeIn(line)), std::string(line.state),
-                      std::string(line.project)});
+        table.AddRow({std::string(NameIn(line)), std::string(TypeIn(line)),
+                      std::string(line.plugin.state), std::string(line.project)});
     table.Print(std::cout);
 }
 
@@ -114,15 +102,14 @@ int RunPlugins(const Environment& environment, const PluginsOptions& options) {
         const std::string path = platform::FullPath(given, ignored);
         allScansOk = GetPlugins4Project(application, lists, path) && allScansOk;
         scanned.push_back({path, options.merged ? lists.ProjectPluginKeys.UpperBound()
-                                                : lists.PluginOccurrences.UpperBound()});
+                                                : lists.PluginOccurrences.size()});
     }
     std::vector<Line> lines;
-    std::size_t index = 1;
-    for (const auto& [path, lastIndex] : scanned)
-        for (; index <= lastIndex; ++index)
-            lines.push_back(options.merged
-                                ? LineOfKey(path, lists.ProjectPluginKeys[index])
-                                : LineOfOccurrence(path, lists.PluginOccurrences[index]));
+    std::size_t count = 0;
+    for (const auto& [path, countBehind] : scanned)
+        for (; count < countBehind; ++count)
+            lines.push_back({path, options.merged ? lists.ProjectPluginKeys[count + 1]
+                                                  : lists.PluginOccurrences[count]});
     Print(lines, options.format);
     return FinishOutput(allScansOk ? kDone : kFailed);
 }

@@ -35,14 +35,13 @@ TEST_F(OutOfMemoryTest, AScanThatRunsOutOfMemoryKeepsWhatItHadAndLogsNumber7) {
     EXPECT_FALSE(completed);
     const std::string key = "\"" + path + "\",\"Kept\",\"VST    \"";
     EXPECT_EQ(Log(), LogLine("GetPlugins4Project " + path + " " + key, 7, "Out of memory"));
-    EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 1U);
+    EXPECT_EQ(lists.PluginOccurrences.size(), 1U);
     EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 1U);
 }
 
 TEST_F(OutOfMemoryTest, AKeyThatCannotBeSplitIsLoggedAndMakesTheResultFilesFail) {
     const std::string key = "\"A.cpr\",\"Delay\",\"VST    \"";
-    lists.PluginOccurrences.Append(key + ",\"On\"");
-    lists.ProjectPluginKeys.Merge(key, kOn);
+    lists.PluginOccurrences.push_back(lists.ProjectPluginKeys.Merge(key, kOn));
     bool ok = true;
     {
         const test::FailingAllocation failing(

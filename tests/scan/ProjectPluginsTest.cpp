@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,7 +34,9 @@ class ProjectPluginsTest : public test::ApplicationTest {
     }
 
     Texts Occurrences() const {
-        return {lists.PluginOccurrences.begin(), lists.PluginOccurrences.end()};
+        Texts records;
+        std::ranges::transform(lists.PluginOccurrences, std::back_inserter(records), RecordOf);
+        return records;
     }
 
     /// The keys, each with its merged state behind it.
@@ -54,7 +58,7 @@ class ProjectPluginsTest : public test::ApplicationTest {
 
 TEST_F(ProjectPluginsTest, AFileWithoutABankAddsNothing) {
     EXPECT_TRUE(Scan("just some text"));
-    EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 0U);
+    EXPECT_EQ(lists.PluginOccurrences.size(), 0U);
     EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 0U);
     EXPECT_EQ(Log(), "");
 }
@@ -102,7 +106,7 @@ TEST_F(ProjectPluginsTest, ACFourBytesInFrontDoesNotHideTheMarker) {
     std::string bytes = PluginBytes({.name = "Seen"});
     bytes.replace(bytes.find("CcnK") - 4, 4, "Cxyz");
     EXPECT_TRUE(Scan(kFront + bytes));
-    EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 1U);
+    EXPECT_EQ(lists.PluginOccurrences.size(), 1U);
 }
 
 TEST_F(ProjectPluginsTest, AMarkerInTheSkippedSizeBytesIsNotSeen) {
@@ -181,7 +185,7 @@ TEST_F(ProjectPluginsTest, AZeroByteAtPosition1DoesNotCount) {
 
 TEST_F(ProjectPluginsTest, AZeroByteAtPosition2Counts) {
     EXPECT_TRUE(Scan("x\0"s + std::string(80, 'x') + "CcnK....FBCh" + kFront));
-    EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 1U);
+    EXPECT_EQ(lists.PluginOccurrences.size(), 1U);
 }
 
 TEST_F(ProjectPluginsTest, AMarkerWithinTheFirst52BytesIsLoggedAndFails) {
@@ -250,7 +254,7 @@ TEST_F(ProjectPluginsTest, MoreThan500EntriesAreKept) {
     for (int i = 0; i < 1200; ++i)
         bytes += PluginBytes({.name = "Plug-in " + std::to_string(i), .chunkSize = 8});
     Scan(bytes);
-    EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 1200U);
+    EXPECT_EQ(lists.PluginOccurrences.size(), 1200U);
     EXPECT_EQ(lists.ProjectPluginKeys[1].key, Key("Plug-in 0"));
     EXPECT_EQ(lists.ProjectPluginKeys[1200].key, Key("Plug-in 1199"));
 }
@@ -272,7 +276,7 @@ TEST_F(ProjectPluginsTest, RecordsBeyond256MiBAreOutOfMemoryAndTheEarlierOnesKep
     EXPECT_EQ(logged.number, 7);
     EXPECT_EQ(logged.description, "Out of memory");
     // Nine occurrences and one key of 24 MiB each fit in.
-    EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 9U);
+    EXPECT_EQ(lists.PluginOccurrences.size(), 9U);
     EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 1U);
     EXPECT_EQ(logged.procedure, "GetPlugins4Project " + folder.Path("song.cpr") + " " +
                                     std::string(lists.ProjectPluginKeys[1].key));
@@ -320,7 +324,7 @@ TEST_F(ProjectPluginsTest, AProjectOf4GiBIsScannedWithin16MiB) {
     const std::size_t taken =
         test::MemoryTakenBy([&] { EXPECT_TRUE(GetPlugins4Project(application, lists, path)); });
     EXPECT_LT(taken, std::size_t{16} * 1024 * 1024);
-    EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 2U);
+    EXPECT_EQ(lists.PluginOccurrences.size(), 2U);
     EXPECT_EQ(Keys(), Texts{Key("Far out", "VST    ", "huge.cpr") + " On"});
 }
 

@@ -16,9 +16,9 @@ class ResultFilesTest : public test::ApplicationTest {
     /// Adds one use of a plug-in to the lists, as a scan does.
     void AddUse(const std::string& project, const std::string& name, const std::string& state,
                 const std::string& type = "VST    ") {
-        const std::string key = QuotedFields({project, name, type});
-        lists.PluginOccurrences.Append(key + "," + Quoted(state));
-        lists.ProjectPluginKeys.Merge(key, state);
+        const PluginState merged =
+            lists.ProjectPluginKeys.Merge(QuotedFields({project, name, type}), state);
+        lists.PluginOccurrences.push_back({merged.key, state == kOn ? kOn : kOff});
     }
 
     bool Create() { return CreateResultFiles(application, window, lists); }

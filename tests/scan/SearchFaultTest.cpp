@@ -114,7 +114,7 @@ TEST_F(SearchFaultTest, WhereverTheDiskIsFullEachResultFileIsWholeAndThoseBehind
     if (!test::FileSizeLimit::IsPossible())
         GTEST_SKIP() << test::kNoFileSizeLimit;
     // Short keys that give each file more bytes than the one before it.
-    lists.PluginOccurrences.Append("b");
+    lists.PluginOccurrences.push_back({"b", ""});
     lists.ProjectPluginKeys.Merge("A", "On");
     ASSERT_TRUE(CreateResultFiles(application, window, lists));
     const Contents complete = ResultFiles();

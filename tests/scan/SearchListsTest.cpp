@@ -68,11 +68,10 @@ TEST(MergedStatesTest, WhatIsCalledBeforeAddingCanPreventIt) {
 TEST(SearchListsTest, ClearForgetsEverything) {
     SearchLists lists;
     lists.ProjectFiles.Append("a.cpr");
-    lists.PluginOccurrences.Append("a");
-    lists.ProjectPluginKeys.Merge("a", kOn);
+    lists.PluginOccurrences.push_back(lists.ProjectPluginKeys.Merge("a", kOn));
     lists.Clear();
     EXPECT_EQ(lists.ProjectFiles.UpperBound(), 0U);
-    EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 0U);
+    EXPECT_TRUE(lists.PluginOccurrences.empty());
     EXPECT_EQ(lists.ProjectPluginKeys.Merge("a", kOff).state, kOff);
     EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 1U);
 }

@@ -22,7 +22,7 @@ class SearchRunTest : public test::ApplicationTest {
     SearchSummary Search() {
         const auto summary = GetPlugins4AllProjects(application, window, lists);
         EXPECT_EQ(lists.ProjectFiles.UpperBound(), 0U);
-        EXPECT_EQ(lists.PluginOccurrences.UpperBound(), 0U);
+        EXPECT_EQ(lists.PluginOccurrences.size(), 0U);
         EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 0U);
         return summary;
     }

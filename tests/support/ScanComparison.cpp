@@ -17,8 +17,7 @@ std::string ScanDifference(Application& application, const std::string& path,
 
     if (completed != expected.completed)
         return completed ? "the scan came to its end" : "the scan failed: " + procedure;
-    if (!std::equal(lists.PluginOccurrences.begin(), lists.PluginOccurrences.end(),
-                    expected.occurrences.begin(), expected.occurrences.end()))
+    if (!std::ranges::equal(lists.PluginOccurrences, expected.occurrences, {}, RecordOf))
         return "the occurrences";
     if (lists.ProjectPluginKeys.UpperBound() != expected.keys.size())
         return "the number of keys";

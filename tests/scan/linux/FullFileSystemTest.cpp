@@ -49,8 +49,7 @@ class FullFileSystemTest : public test::ApplicationTest {
         for (std::size_t size = 0; size < 3 * PageSize(); size += 100) {
             const std::string key =
                 QuotedFields({"a.cpr", std::to_string(size) + std::string(90, 'n'), "VST"});
-            lists.PluginOccurrences.Append(key + ",\"On\"");
-            lists.ProjectPluginKeys.Merge(key, "On");
+            lists.PluginOccurrences.push_back(lists.ProjectPluginKeys.Merge(key, kOn));
         }
     }
 
