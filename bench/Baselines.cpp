@@ -41,6 +41,17 @@ void ReadFiles(benchmark::State& state, const std::vector<std::string>& paths) {
     state.SetBytesProcessed(static_cast<std::int64_t>(total));
 }
 
+void ReadFromDisk(const std::vector<std::string>& paths) {
+    static PlainBuffer buffer;
+    for (const std::string& path : paths) {
+        const int file = open(path.c_str(), O_RDONLY);
+        if (file < 0 || fsync(file) != 0 || posix_fadvise(file, 0, 0, POSIX_FADV_DONTNEED) != 0)
+            throw std::runtime_error("cannot leave " + path + " to the disk");
+        close(file);
+        ReadFile(path, buffer);
+    }
+}
+
 void ReadLines(benchmark::State& state, const std::vector<std::string>& paths) {
     for (auto iteration : state) {
         std::size_t lines = 0;

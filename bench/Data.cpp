@@ -18,7 +18,6 @@ namespace {
 
 constexpr double kSmallest = 80.0 * 1024;
 constexpr double kLargest = 8.0 * 1024 * 1024;
-constexpr double kLibrarySize = 400e6;
 
 /// Writes a file unless it is there; a file that is there is whole.
 std::string WriteOnce(const std::string& name, const auto& make) {
@@ -36,20 +35,16 @@ std::string WriteOnce(const std::string& name, const auto& make) {
     return path.string();
 }
 
-/// File sizes from the smallest to the largest, spread evenly over the orders of magnitude, then
-/// scaled to the library's size.
+/// File sizes from the smallest to the largest, spread over the orders of magnitude with more of
+/// the smaller ones, so that all together have 400 MB.
 std::vector<std::size_t> LibrarySizes() {
-    std::vector<double> sizes;
-    double total = 0;
+    std::vector<std::size_t> sizes;
     for (std::size_t i = 0; i < kLibraryFiles; ++i) {
-        const double share = static_cast<double>(i) / (kLibraryFiles - 1);
-        sizes.push_back(kSmallest * std::pow(kLargest / kSmallest, share));
-        total += sizes.back();
+        const double share = std::pow(static_cast<double>(i) / (kLibraryFiles - 1), 1.5);
+        sizes.push_back(
+            static_cast<std::size_t>(kSmallest * std::pow(kLargest / kSmallest, share)));
     }
-    std::vector<std::size_t> scaled;
-    for (const double size : sizes)
-        scaled.push_back(static_cast<std::size_t>(size * kLibrarySize / total));
-    return scaled;
+    return sizes;
 }
 
 std::string RealisticProject(std::uint32_t seed, std::size_t size) {
@@ -87,7 +82,7 @@ std::vector<std::string> RealisticLibrary(std::size_t count) {
         std::uint32_t seed = 0;
         for (const std::size_t size : LibrarySizes()) {
             ++seed;
-            made.push_back(WriteOnce("library/" + std::to_string(seed) + ".cpr",
+            made.push_back(WriteOnce("archive/" + std::to_string(seed) + ".cpr",
                                      [&] { return RealisticProject(seed, size); }));
         }
         return made;
@@ -99,7 +94,7 @@ std::vector<std::string> RealisticLibrary(std::size_t count) {
 }
 
 std::string LibraryFolder(std::size_t count) {
-    const auto folder = std::filesystem::path(DataFolder()) / ("library-" + std::to_string(count));
+    const auto folder = std::filesystem::path(DataFolder()) / ("archive-" + std::to_string(count));
     const std::vector<std::string> projects = RealisticLibrary(kLibraryFiles);
     std::filesystem::create_directories(folder);
     for (std::size_t i = 0; i < count; ++i) {

@@ -156,7 +156,7 @@ class FullDiskSettingsTest : public SettingsTest {
 TEST_F(FullDiskSettingsTest, WhereverTheDiskIsFullASettingIsOldOrNew) {
     if (!test::FileSizeLimit::IsPossible())
         GTEST_SKIP() << test::kNoFileSizeLimit;
-    for (const std::int16_t record : {1, 2, 3, 4})
+    for (std::int16_t record = 1; record <= 4; ++record)
         WriteSetting(application, record, "/tmp/" + std::to_string(record) + "/vst");
     const std::string whole = folder.Read("settings.ini");
     const std::string cut = whole.substr(0, whole.size() - 250);

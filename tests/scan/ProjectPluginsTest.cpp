@@ -329,10 +329,10 @@ TEST_F(ProjectPluginsTest, AProjectOf4GiBIsScannedWithin16MiB) {
 }
 
 TEST_F(ProjectPluginsTest, ARealProjectHasItsSevenPlugins) {
-    const std::string_view given = MARLO_REAL_PROJECT;
-    const std::string path(given);
-    if (!std::filesystem::exists(path))
+    const std::filesystem::path given(MARLO_REAL_PROJECT);
+    if (!std::filesystem::exists(given))
         GTEST_SKIP() << "no real project at hand";
+    const std::string path = given.string();
     EXPECT_TRUE(GetPlugins4Project(application, lists, path));
     Texts names;
     const std::size_t start = path.size() + std::string(R"("",")").size();
