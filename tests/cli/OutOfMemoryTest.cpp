@@ -27,7 +27,8 @@ TEST_F(OutOfMemoryTest, AReportThatDoesNotFitIsAFailureThatIsSaid) {
     std::string installed;
     for (int i = 0; i < 20000; ++i) {
         const std::string number = std::to_string(i);
-        installed += "\"VST\",\"Effect " + number + "\",\"/vst/" + number + ".dll\"\r\n";
+        installed.append("\"VST\",\"Effect ").append(number);
+        installed.append("\",\"/vst/").append(number).append(".dll\"\r\n");
     }
     folder.Write("app/resultfiles/installedplugins.csv", installed);
     const std::string said = "marlo-cli: Out of memory\n";

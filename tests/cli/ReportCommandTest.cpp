@@ -178,13 +178,15 @@ TEST_F(ReportCommandTest, CsvOnATerminalCannotActOnIt) {
 TEST_F(ReportCommandTest, APageOnATerminalCannotActOnIt) {
     if (!test::HasUnixShell())
         GTEST_SKIP() << test::kNoUnixShell;
-    WriteResult("tln.csv", "\"\x1b[2J\xE2\x80\xAE\",\"VST\",\"On\"\r\n\"Echo\",\"VST\",\"On\"\r\n");
+    const std::string rightToLeft{'\xE2', '\x80', '\xAE'};
+    WriteResult("tln.csv",
+                "\"\x1b[2J" + rightToLeft + "\",\"VST\",\"On\"\r\n\"Echo\",\"VST\",\"On\"\r\n");
     const std::vector<std::string> report = {"report", "used", "--format", "html"};
     const std::string shown = InTerminal(report, "xterm");
     EXPECT_EQ(shown.find('\x1b'), std::string::npos);
-    EXPECT_EQ(shown.find("\xE2\x80\xAE"), std::string::npos);
+    EXPECT_EQ(shown.find(rightToLeft), std::string::npos);
     EXPECT_NE(shown.find("<td>Echo</td>"), std::string::npos);
-    EXPECT_NE(Marlo(report).out.find("\xE2\x80\xAE"), std::string::npos)
+    EXPECT_NE(Marlo(report).out.find(rightToLeft), std::string::npos)
         << "a program gets it as it is";
 }
 

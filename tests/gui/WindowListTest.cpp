@@ -126,7 +126,8 @@ TEST_F(ListLookTest, AListOf200000RowsAppears) {
 }
 
 TEST_F(ListLookTest, ANameOf10MegabytesIsCutAndSavedWhole) {
-    const std::string endless(10'000'000, 'W');
+    std::string endless;
+    endless.resize(10'000'000, 'W');
     folder.Write(
         "resultfiles/installedplugins.csv",
         "\"VST\",\"Alpha\",\"" + alpha_ + "\"\r\n\"VST\",\"" + endless + "\",\"/w.dll\"\r\n");
