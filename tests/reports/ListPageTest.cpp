@@ -97,7 +97,8 @@ TEST_F(ListPageTest, NothingInAFieldIsMarkup) {
 }
 
 TEST_F(ListPageTest, WhatTurnsTheWritingDirectionStaysInItsCell) {
-    const std::string name = "\xE2\x80\xAE" + std::string("txt.rpc");  // from right to left
+    const std::string rightToLeft{'\xE2', '\x80', '\xAE'};
+    const std::string name = rightToLeft + "txt.rpc";
     Add(name, "VST");
     EXPECT_TRUE(HtmlHas("<td>" + name + "</td><td>VST</td>"));
     EXPECT_TRUE(HtmlHas("td { padding: .3rem .75rem; unicode-bidi: isolate;"));
