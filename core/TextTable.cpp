@@ -28,23 +28,22 @@ std::optional<std::size_t> TextTable::Find(std::string_view text) const {
 }
 
 bool TextTable::Add(std::string_view text) {
-    const std::size_t oldSize = Size();
-    return FindOrAdd(text, [] {}) == oldSize;
+    const std::size_t hash = std::hash<std::string_view>()(text);
+    Slot& slot = SlotToFill(text, hash);
+    if (slot.number != 0)
+        return false;
+    Fill(slot, text, hash);
+    return true;
 }
 
 std::size_t TextTable::FindOrAdd(std::string_view text, const std::function<void()>& beforeAdding) {
-    if (slots_.size() * 7 < 8 * (texts_.size() + 1))
-        Grow();
     const std::size_t hash = std::hash<std::string_view>()(text);
-    Slot& slot = slots_[SlotFor(text, hash)];
-    if (slot.number != 0)
-        return slot.number - 1;
-    if (texts_.size() == std::numeric_limits<std::uint32_t>::max())
-        throw std::length_error("too many texts");
-    beforeAdding();
-    texts_.push_back(arena_.Copy(text));
-    slot = {static_cast<std::uint32_t>(texts_.size()), TagOf(hash)};
-    return texts_.size() - 1;
+    Slot& slot = SlotToFill(text, hash);
+    if (slot.number == 0) {
+        beforeAdding();
+        Fill(slot, text, hash);
+    }
+    return slot.number - 1;
 }
 
 void TextTable::Clear() {
@@ -62,6 +61,20 @@ std::size_t TextTable::SlotFor(std::string_view text, std::size_t hash) const {
            (slots_[slot].hash != tag || texts_[slots_[slot].number - 1] != text))
         slot = (slot + 1) & mask;
     return slot;
+}
+
+/// The same in a table with room for one text more.
+TextTable::Slot& TextTable::SlotToFill(std::string_view text, std::size_t hash) {
+    if (slots_.size() * 7 < 8 * (texts_.size() + 1))
+        Grow();
+    return slots_[SlotFor(text, hash)];
+}
+
+void TextTable::Fill(Slot& slot, std::string_view text, std::size_t hash) {
+    if (texts_.size() == std::numeric_limits<std::uint32_t>::max())
+        throw std::length_error("too many texts");
+    texts_.push_back(arena_.Copy(text));
+    slot = {static_cast<std::uint32_t>(texts_.size()), TagOf(hash)};
 }
 
 void TextTable::Grow() {

@@ -46,6 +46,8 @@ class TextTable {
     };
 
     std::size_t SlotFor(std::string_view text, std::size_t hash) const;
+    Slot& SlotToFill(std::string_view text, std::size_t hash);
+    void Fill(Slot& slot, std::string_view text, std::size_t hash);
     void Grow();
 
     TextArena arena_;
