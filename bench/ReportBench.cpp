@@ -63,7 +63,8 @@ void RegisterReport(const std::string& name, const char* kind, bool isOfUses) {
              },
          .sizes = {1'000, 10'000, 100'000},
          .mostRatio = 30,
-         .mostGrowth = 2});
+         // What the smallest needs fits the processor's caches.
+         .mostGrowth = 2.5});
 }
 
 void RegisterSearch(const std::string& name, const std::string& what, bool ignoresCase,
