@@ -46,6 +46,12 @@ double Soak::PartOver() const {
 
 void Soak::Notify() {
     alarm(kPatience);
+    if (isOver_) {
+        // A click that was still to come may open a menu, and the event loop ends behind it.
+        if (window_ != nullptr)
+            (void)user_.Calm(*window_);
+        return;
+    }
     if (window_ == nullptr)
         return Open();
     NoteRun();
@@ -109,7 +115,7 @@ void Soak::Rest() {
     // What is rare may need some more time.
     if (PartOver() < (record_.Missing().empty() ? 1 : 2))
         return;
-    Stop();
+    isOver_ = true;
     wxTheApp->ExitMainLoop();
 }
 
@@ -122,6 +128,7 @@ void Soak::CountLogEntries() {
 }
 
 bool Soak::Report() {
+    Stop();
     alarm(0);
     CountLogEntries();
     record_.Print(std::cout);

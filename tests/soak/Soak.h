@@ -47,6 +47,7 @@ class Soak final : private wxTimer {
     gui::Form1Window* window_ = nullptr;  ///< owned by the toolkit
     std::string run_;                     ///< the command that has been used last
     bool wasRunning_ = false;
+    bool isOver_ = false;
 };
 
 }  // namespace marlo::soak
