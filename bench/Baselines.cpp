@@ -15,7 +15,8 @@ namespace {
 /// Aligned, as reading into a buffer that is not takes some 40 % longer.
 struct alignas(4096) PlainBuffer : std::array<char, std::size_t{256} * 1024> {};
 
-std::size_t ReadFile(const std::string& path, PlainBuffer& buffer) {
+std::size_t ReadFile(const std::string& path) {
+    static PlainBuffer buffer;
     const int file = open(path.c_str(), O_RDONLY);
     if (file < 0)
         throw std::runtime_error("cannot open " + path);
@@ -33,22 +34,20 @@ std::size_t ReadFile(const std::string& path, PlainBuffer& buffer) {
 }  // namespace
 
 void ReadFiles(benchmark::State& state, const std::vector<std::string>& paths) {
-    static PlainBuffer buffer;
     std::size_t total = 0;
     for (auto iteration : state)
         for (const std::string& path : paths)
-            total += ReadFile(path, buffer);
+            total += ReadFile(path);
     state.SetBytesProcessed(static_cast<std::int64_t>(total));
 }
 
 void ReadFromDisk(const std::vector<std::string>& paths) {
-    static PlainBuffer buffer;
     for (const std::string& path : paths) {
         const int file = open(path.c_str(), O_RDONLY);
         if (file < 0 || fsync(file) != 0 || posix_fadvise(file, 0, 0, POSIX_FADV_DONTNEED) != 0)
             throw std::runtime_error("cannot leave " + path + " to the disk");
         close(file);
-        ReadFile(path, buffer);
+        ReadFile(path);
     }
 }
 

@@ -10,8 +10,8 @@ namespace marlo::bench {
 /// Reads files with `read()`, in blocks of 256 KiB.
 void ReadFiles(benchmark::State& state, const std::vector<std::string>& paths);
 
-/// Reads files from the disk into the page cache, where they are then as a user's files are. What has
-/// just been written lies there in larger pages, which are read in two thirds of the time.
+/// Reads files from the disk into the page cache, where they are then as a user's files are. What
+/// has just been written lies there in larger pages, which are read in two thirds of the time.
 void ReadFromDisk(const std::vector<std::string>& paths);
 
 /// Reads the lines of files with `std::getline`.

@@ -9,7 +9,7 @@
 namespace marlo {
 
 /// How much record text, in bytes, one project may add to the lists. No real project comes near;
-/// a hostile one whose banks share one endless name would otherwise take all memory.
+/// a hostile one whose banks share one endless name would otherwise fill the disk.
 inline constexpr std::size_t kMaxRecordText = std::size_t{256} * 1024 * 1024;
 
 /// Scans one project file for plug-ins and appends a record for each bank found to
