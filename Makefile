@@ -5,8 +5,13 @@ PACKAGES := packaging/install-packages
 LOGIC    := platform core scan inventory reports dialogs ui app/cli
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-.PHONY: help run build test sanitized test-asan-gui test-windows soak fuzz fuzzers coverage bench \
-	bench-counts bench-windows package package-windows \
+JOBS     := $(shell nproc)
+CTEST    := tests/in-memory ctest -j $(JOBS)
+# What changed since then is linted.
+MARLO_BASE ?= HEAD~1
+
+.PHONY: help run build test check sanitized test-sanitized test-fuzzers test-long test-asan-gui \
+	test-windows soak fuzz fuzzers coverage bench bench-counts bench-windows package package-windows \
 	screenshots pictures format lint clean
 
 help: ## List the targets
@@ -24,10 +29,22 @@ build:
 	@cmake --preset normal --log-level=WARNING
 	@cmake --build --preset normal
 
-test: build sanitized fuzzers ## Build and run every test, the unit tests with sanitizers too, and the fuzzers
-	ctest --preset fuzz -j 2
-	ctest --preset sanitizer -j 2
-	ctest --preset normal -j 2
+test: ## Build and run every test of the program and its window, or those of one ROOM, such as scan
+	@$(PACKAGES) build test
+	@cmake --preset normal --log-level=WARNING
+	@cmake --build --preset normal $(if $(ROOM),--target $(ROOM)_tests)
+	$(CTEST) --preset normal $(if $(ROOM),-L '^(unit-)?$(ROOM)$$')
+
+check: lint test-sanitized test-fuzzers test-long test-package test-windows ## Run all other tests, and the linter on what changed
+
+test-sanitized: sanitized
+	$(CTEST) --preset sanitizer
+
+test-fuzzers: fuzzers
+	$(CTEST) --preset fuzz
+
+test-long: build
+	ctest --preset long
 
 sanitized:
 	@$(PACKAGES) build
@@ -38,7 +55,7 @@ test-asan-gui: ## Run the tests of the window with AddressSanitizer and Undefine
 	@$(PACKAGES) build
 	@cmake --preset sanitizer --log-level=WARNING
 	@cmake --build --preset asan-gui
-	ctest --preset asan-gui -j 2
+	$(CTEST) --preset asan-gui
 
 soak: ## Let a random user at the window for two minutes, or for SECONDS, with a SEED if given
 	@$(PACKAGES) build
@@ -53,7 +70,7 @@ test-windows: ## Build for Windows and run every test under Wine
 	@cmake --build --preset normal --target marlo-cli marlo-samples
 	@packaging/windows/configure windows64
 	@cmake --build --preset windows64
-	tests/windows/with-wine ctest --preset windows64 -j 2 --repeat after-timeout:2
+	tests/windows/with-wine ctest --preset windows64 -j $(JOBS) --repeat after-timeout:2
 	@tests/windows/run-32-bit
 
 fuzzers:
@@ -62,7 +79,7 @@ fuzzers:
 	@cmake --build --preset fuzz
 
 fuzz: fuzzers ## Run each fuzzer for a minute, or for SECONDS
-	fuzz/run build/fuzz $(or $(SECONDS),60)
+	tests/in-memory fuzz/run build/fuzz $(or $(SECONDS),60)
 
 coverage: ## Tell which lines of the logic no test runs; fails below 97 %
 	@$(PACKAGES) build coverage
@@ -70,7 +87,7 @@ coverage: ## Tell which lines of the logic no test runs; fails below 97 %
 	@cmake --build --preset coverage
 	@find build/coverage -name '*.gcda' -delete
 	@umask 0; build/coverage/marlo/marlo-cli --version >/dev/null  # so that any user may count
-	ctest --preset coverage -j 2
+	$(CTEST) --preset coverage
 	@gcovr --root . --object-directory build/coverage --exclude-unreachable-branches \
 		$(foreach room,$(LOGIC),--filter '$(room)/') --sort-percentage --fail-under-line 97 \
 		--html-details build/coverage/lines.html --txt -
@@ -125,15 +142,10 @@ format: ## Put all sources into the project's format
 	@$(PACKAGES) lint
 	@$(SOURCES) | xargs clang-format -i
 
-lint: build ## Check the format, and the code with clang-tidy
-	@$(PACKAGES) lint bench fuzz
-	@$(SOURCES) | xargs clang-format --dry-run -Werror
-	@cmake --preset normal -D MARLO_BENCHMARKS=ON --log-level=WARNING
-	@cmake --preset sanitizer --log-level=WARNING
-	@cmake --preset fuzz --log-level=WARNING
-	@run-clang-tidy -quiet -j 2 -p build/normal '^$(CURDIR)/.*\.cpp$$'
-	@run-clang-tidy -quiet -j 2 -p build/sanitizer '^$(CURDIR)/tests/soak/.*\.cpp$$'
-	@run-clang-tidy -quiet -j 2 -p build/fuzz '^$(CURDIR)/fuzz/.*\.cpp$$'
+lint: ## Check the format, and with clang-tidy what changed since MARLO_BASE; "make lint MARLO_BASE=" checks all
+	@$(PACKAGES) build lint bench fuzz
+	@cmake --preset lint --log-level=WARNING
+	@tools/lint build/lint "$(MARLO_BASE)"
 
 clean: ## Delete everything that was built
 	rm -rf build

@@ -20,7 +20,8 @@ constexpr int kProjects = test::kIsSanitized ? 2000 : 10000;
 constexpr int kLibraries = 20000;
 /// In each of the shorter tests; twice as many in the search. Each takes long under Wine and
 /// with sanitizers.
-const std::size_t kKills = test::HasUnixShell() && !test::kIsSanitized ? 50 : 15;
+const std::size_t kKills =
+    test::TakesItsTime() && test::HasUnixShell() && !test::kIsSanitized ? 50 : 15;
 const std::vector<std::string> kFiles = {"results.csv", "fln.csv", "tln.csv"};
 
 class KillTest : public test::CliTest {

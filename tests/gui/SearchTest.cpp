@@ -18,7 +18,7 @@ class SearchTest : public test::GuiTest {
     /// Writes projects that take longer to scan than the window goes without running events, each
     /// with one plug-in.
     void AddSlowProjects(int count) const {
-        constexpr std::uintmax_t size = std::uintmax_t{3} << 29;
+        constexpr std::uintmax_t size = std::uintmax_t{1} << 30;
         for (int i = 1; i <= count; ++i)
             std::filesystem::resize_file(AddProject("slow" + std::to_string(i) + ".cpr"), size);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -40,6 +41,13 @@ constexpr const char* kNoOrdinaryUser = "permissions hold nobody back here";
 /// Whether the tests are built with AddressSanitizer, with which everything takes several times as
 /// long.
 inline constexpr bool kIsSanitized = MARLO_SANITIZED;
+
+/// Whether a test that repeats something by chance does so as often as it can, which takes minutes,
+/// rather than as often as fits into some seconds. The environment variable MARLO_LONG_TESTS asks
+/// for it.
+inline bool TakesItsTime() {
+    return std::getenv("MARLO_LONG_TESTS") != nullptr;
+}
 
 /// Lets no file of this process grow beyond a size, as on a disk that is full, for as long as it
 /// lives.

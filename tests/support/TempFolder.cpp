@@ -2,8 +2,9 @@
 
 #include <chrono>
 #include <fstream>
-#include <iterator>
 #include <random>
+#include <sstream>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -53,7 +54,9 @@ std::string TempFolder::MakeFolder(const std::string& name) const {
 std::string TempFolder::Read(const std::string& name) const {
     std::ifstream file(Of(name), std::ios::binary);
     EXPECT_TRUE(file.good()) << "cannot read " << name;
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return std::move(bytes).str();
 }
 
 void TempFolder::SetLastChange(const std::string& name, std::time_t moment) const {
