@@ -16,7 +16,7 @@ namespace {
 
 using test::Program;
 
-constexpr int kProjects = test::kIsSanitized ? 2000 : 10000;
+const int kProjects = test::kIsSanitized ? 2000 : test::TakesItsTime() ? 10000 : 4000;
 constexpr int kLibraries = 20000;
 /// In each of the shorter tests; twice as many in the search. Each takes long under Wine and
 /// with sanitizers.
