@@ -22,8 +22,7 @@ int TerminalWidth(Stream stream);
 /// that clears a line.
 bool ObeysSequences(Stream stream);
 
-/// Whether the stream is connected to a terminal that shows colours, and the user wants them
-/// (the environment variable NO_COLOR is not set, or empty).
+/// Whether the stream is connected to a terminal that shows colours.
 bool ShowsColours(Stream stream);
 
 /// From now on, the first interrupt key (Ctrl-C) is noted rather than ending the program; a second

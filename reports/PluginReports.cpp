@@ -75,7 +75,7 @@ void MakeUseKey(std::string& key, const UsedPlugin& plugin,
 void ShowWhereInstalled(ResultList& list, ResultRow row, std::int16_t pathColumn,
                         const UsedPlugin& plugin, std::optional<std::string_view> installedPath) {
     if (!installedPath)
-        list.SetSubItem(row, pathColumn - 1, "!Not Installed!");
+        list.SetSubItem(row, pathColumn - 1, kNotInstalled);
     else if (plugin.type == "VST")
         list.SetSubItem(row, pathColumn - 1, *installedPath);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "reports/ResultPane.h"
 
@@ -13,14 +14,17 @@ namespace marlo {
 // column. A failure is logged under the routine's name, unless it says otherwise, and told to the
 // user; the rows added before it stay. A malformed line is logged once, when it is read.
 
+/// What stands in the place of a path that there is not.
+inline constexpr std::string_view kNotInstalled = "!Not Installed!";
+
 /// The installed plug-ins, from "\resultfiles\installedplugins.csv": their type, and the path of a
 /// VST one. DirectX ones are left out where the settings ignore them. A list without rows gets the
 /// row "No plugins found".
 void ShowAllPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pathColumn);
 
 /// The used plug-ins, from "\resultfiles\tln.csv": their type and state, and where a VST one is
-/// installed, by name and type. One that is not installed is greyed and has "!Not Installed!" for
-/// its path. A list without rows gets the row "No plugins found".
+/// installed, by name and type. One that is not installed is greyed and has `kNotInstalled` for its
+/// path. A list without rows gets the row "No plugins found".
 void ShowUsedPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pathColumn,
                      std::int16_t statusColumn);
 

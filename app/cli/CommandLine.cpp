@@ -2,47 +2,46 @@
 
 #include <algorithm>
 #include <iostream>
-#include <map>
 #include <memory>
-#include <optional>
+#include <set>
 #include <sstream>
 #include <utility>
 
 #include <CLI/CLI.hpp>
 
 #include "app/cli/CommandSupport.h"
+#include "app/cli/CommandTable.h"
 #include "app/cli/TerminalText.h"
 #include "platform/FileSystem.h"
-#include "platform/Machine.h"
-#include "reports/ReportView.h"
-#include "reports/ResultSearch.h"
 
 namespace marlo::cli {
 
 namespace {
 
-constexpr const char* kProgressHelp =
-    "Show the progress also when the standard error stream is no terminal";
 constexpr const char* kVersion = "marlo-cli " MARLO_VERSION;
+
+/// The names of an option as the parser takes them: "-h,--help".
+std::string NamesOf(const Argument& argument) {
+    const std::string name(argument.name);
+    return argument.shortName.empty() ? name : std::string(argument.shortName) + "," + name;
+}
 
 /// The command line: the program's commands and options, and what they were set to.
 class CommandLine {
   public:
     CommandLine() {
+        std::get<SharedOptions>(options_).applicationFolder = platform::ProgramFolder();
         // A path may begin with a slash on every system.
         app_.allow_windows_style_options(false);
         app_.require_subcommand(1);
         app_.fallthrough();
-        app_.set_version_flag("--version", kVersion);
-        app_.add_option("--app-folder", applicationFolder_,
-                        "The application folder, with settings.ini and resultfiles in it "
-                        "(default: the program's own folder)")
-            ->type_name("DIR");
+        for (const Argument& argument : SharedArguments())
+            AddArgument(app_, argument);
         app_.footer(
             "--app-folder DIR works with every command.\n"
             "Exit codes: 0 done, 1 something failed (said on the standard error stream),\n"
             "2 wrong usage, 130 cancelled.");
-        AddCommands();
+        AddCommands(app_, "");
     }
 
     std::variant<Request, int> Read(std::vector<std::string> arguments) {
@@ -58,61 +57,77 @@ class CommandLine {
         } catch (const CLI::ParseError& ending) {
             return Report(ending);
         }
-        return Request{applicationFolder_, command_};
+        return Request{std::get<SharedOptions>(options_).applicationFolder,
+                       [this](const Environment& environment) {
+                           return command_->run(environment, options_);
+                       }};
     }
 
   private:
-    void AddCommands() {
-        AddCommand(
-            app_, "plugins", "Print the plug-ins that project files use",
-            [this](const Environment& environment) { return RunPlugins(environment, plugins_); },
-            [this](CLI::App& command) { AddPluginsOptions(command); });
-        AddCommand(
-            app_, "search", "Search a folder of projects and write the result files",
-            [this](const Environment& environment) { return RunSearch(environment, search_); },
-            [this](CLI::App& command) { AddSearchOptions(command); });
-        AddCommand(
-            app_, "installed", "Take the inventory of the plug-ins that are installed here",
-            [this](const Environment& environment) {
-                return RunInstalled(environment, installed_);
-            },
-            [this](CLI::App& command) { AddInstalledOptions(command); });
-        AddCommand(
-            app_, "report", "Print a report from the result files",
-            [this](const Environment& environment) { return RunReport(environment, report_); },
-            [this](CLI::App& command) { AddReportOptions(command); });
-        AddCommand(
-            app_, "find", "Search the result files for a plug-in or a project",
-            [this](const Environment& environment) { return RunFind(environment, find_); },
-            [this](CLI::App& command) { AddFindOptions(command); });
-        AddCommand(app_, "folders", "Print or change the list of VST plug-in folders",
-                   RunFoldersList, [this](CLI::App& command) { AddFoldersCommands(command); });
-        AddCommand(
-            app_, "options", "Print or set the options of the program",
-            [this](const Environment& environment) { return RunOptions(environment, options_); },
-            [this](CLI::App& command) { AddOptionsOptions(command); });
-        AddCommand(app_, "log", "Print when the last runs were, and what was searched", PrintRunLog,
-                   AddNothing);
+    /// Adds the subcommands of a command, or the commands of the program.
+    void AddCommands(CLI::App& parent, std::string_view parentName) {
+        for (const Command& command : Commands())
+            if (command.parent == parentName)
+                AddCommand(parent, command);
     }
 
-    /// @param addOptions adds what the command takes, once the command is given: to add the options
-    /// of all commands would take as long as all else at the program's start.
-    void AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
-                    std::function<int(const Environment&)> command,
-                    std::function<void(CLI::App&)> addOptions) {
-        auto* const added = parent.add_subcommand(name, description);
-        added->preparse_callback([added, addOptions = std::move(addOptions)](std::size_t) {
-            added->set_version_flag("--version", kVersion);
-            addOptions(*added);
+    void AddCommand(CLI::App& parent, const Command& command) {
+        auto* const added =
+            parent.add_subcommand(std::string(command.name), std::string(command.help));
+        // What the command takes is added once it is given: to add the options of all commands
+        // would take as long as all else at the program's start.
+        added->preparse_callback([this, added, &command](std::size_t) {
+            for (const Argument& argument : SharedArguments())
+                if (argument.value.kind == ValueKind::Version)
+                    AddArgument(*added, argument);
+            for (const Argument& argument : command.arguments)
+                if (argument.IsOffered())
+                    AddArgument(*added, argument);
+            AddCommands(*added, command.name);
         });
         // A command is called back after its own subcommand was.
-        added->callback([this, added, command = std::move(command)] {
+        added->callback([this, added, &command] {
             if (added->get_subcommands().empty())
-                command_ = command;
+                command_ = &command;
         });
     }
 
-    static void AddNothing(CLI::App& /*command*/) {}
+    void AddArgument(CLI::App& command, const Argument& argument) {
+        const std::string names = NamesOf(argument);
+        const std::string help(argument.help);
+        switch (argument.value.kind) {
+            case ValueKind::Help:
+                command.set_help_flag(names, help);
+                break;
+            case ValueKind::Version:
+                command.set_version_flag(names, kVersion, help);
+                break;
+            case ValueKind::None:
+                command.add_flag_callback(
+                    names, [this, &argument] { argument.value.set(options_, ""); }, help);
+                break;
+            default:
+                AddArgumentWithValue(command, argument);
+        }
+    }
+
+    void AddArgumentWithValue(CLI::App& command, const Argument& argument) {
+        const Value& value = argument.value;
+        CLI::callback_t set = [this, &value](const CLI::results_t& given) {
+            for (const std::string& text : given)
+                value.set(options_, text);
+            return true;
+        };
+        auto* const added =
+            command.add_option(NamesOf(argument), std::move(set), std::string(argument.help));
+        added->type_name(std::string(argument.valueName))->required(argument.isRequired);
+        if (value.isList)
+            added->expected(CLI::detail::expected_max_vector_size);
+        if (value.kind == ValueKind::Choice)
+            added->check(
+                CLI::IsMember(std::set<std::string>(value.choices.begin(), value.choices.end()))
+                    .description(""));
+    }
 
     /// The command that the arguments name; empty when they name none.
     static std::string CommandIn(const std::vector<std::string>& arguments) {
@@ -123,138 +138,6 @@ class CommandLine {
                 ++i;
         }
         return {};
-    }
-
-    /// Adds an option that takes one of some names.
-    template <class Value, class Target>
-    static CLI::Option* AddChoice(CLI::App& command, const std::string& name, Target& target,
-                                  const std::map<std::string, Value>& choices,
-                                  const std::string& description) {
-        return command
-            .add_option_function<std::string>(
-                name,
-                [&target, choices](const std::string& choice) { target = choices.at(choice); },
-                description)
-            ->check(CLI::IsMember(choices).description(""));
-    }
-
-    static void AddListFormat(CLI::App& command, ListFormat& format) {
-        AddChoice<ListFormat>(command, "--format", format,
-                              {{"table", ListFormat::Table},
-                               {"csv", ListFormat::Csv},
-                               {"json", ListFormat::Json},
-                               {"html", ListFormat::Html}},
-                              "table (default), csv, json or html")
-            ->type_name("FORMAT");
-    }
-
-    void AddPluginsOptions(CLI::App& command) {
-        command.add_option("FILE", plugins_.files, "The project files")->required()->type_name("");
-        command.add_flag("--merged", plugins_.merged,
-                         "A line for each plug-in of a project rather than for each use; On when "
-                         "any use is on");
-        AddChoice<OutputFormat>(command, "--format", plugins_.format,
-                                {{"table", OutputFormat::Table},
-                                 {"csv", OutputFormat::Csv},
-                                 {"json", OutputFormat::Json}},
-                                "table (default), csv or json")
-            ->type_name("FORMAT");
-    }
-
-    void AddSearchOptions(CLI::App& command) {
-        command
-            .add_option_function<std::string>(
-                "FOLDER", [this](const std::string& folder) { search_.folder = folder; },
-                "The folder to search (default: the one that was searched last)")
-            ->type_name("");
-        command.add_flag_callback(
-            "--no-subfolders", [this] { search_.includeSubfolders = false; },
-            "Leave the folders inside FOLDER out");
-        command.add_flag("--progress", search_.showProgress, kProgressHelp);
-    }
-
-    void AddInstalledOptions(CLI::App& command) {
-        if (platform::HasWinePrefixes())
-            command
-                .add_option_function<std::string>(
-                    "--wine-prefix",
-                    [this](const std::string& folder) { installed_.winePrefix = folder; },
-                    "The Wine prefix whose DirectX plug-ins are listed (default: WINEPREFIX, else "
-                    "~/.wine)")
-                ->type_name("DIR");
-        command.add_flag("--progress", installed_.showProgress, kProgressHelp);
-    }
-
-    void AddReportOptions(CLI::App& command) {
-        AddChoice<std::string>(
-            command, "REPORT", report_.kind,
-            {{"used", report_kind::kUsed},
-             {"unused", report_kind::kUnused},
-             {"installed", report_kind::kAll},
-             {"uninstalled", report_kind::kUninstalled}},
-            "used; unused: installed, but in no project; installed; uninstalled: "
-            "used, but not installed")
-            ->required()
-            ->type_name("used|unused|installed|uninstalled");
-        AddListFormat(command, report_.format);
-    }
-
-    void AddFindOptions(CLI::App& command) {
-        command.add_option("TEXT", find_.text, "What to look for")->required()->type_name("");
-        find_.mode = search_mode::kProjectsByPlugin;
-        AddChoice<std::string>(command, "--in", find_.mode,
-                               {{"plugins", search_mode::kProjectsByPlugin},
-                                {"projects", search_mode::kPluginsInProject}},
-                               "Where: in the names of plug-ins (default) or of projects")
-            ->type_name("plugins|projects");
-        AddChoice<std::string>(command, "--match", find_.matchType,
-                               {{"exact", match_type::kExact},
-                                {"starts", match_type::kStartsWith},
-                                {"ends", match_type::kEndsWith},
-                                {"contains", match_type::kContains}},
-                               "How a name matches (default: as chosen last in the window)")
-            ->type_name("exact|starts|ends|contains");
-        command.add_flag_callback(
-            "--ignore-case", [this] { find_.ignoreCase = true; },
-            "Take capitals and small letters for the same (default: as chosen last)");
-        command.add_flag_callback(
-            "--no-ignore-case", [this] { find_.ignoreCase = false; },
-            "Tell capitals from small letters");
-        AddListFormat(command, find_.format);
-    }
-
-    void AddFoldersCommands(CLI::App& command) {
-        AddCommand(command, "list", "Print the folders (the default)", RunFoldersList, AddNothing);
-        const auto addChange = [&](const std::string& name, const std::string& description,
-                                   int (*change)(const Environment&, const std::string&)) {
-            AddCommand(
-                command, name, description,
-                [this, change](const Environment& environment) {
-                    return change(environment, vstFolder_);
-                },
-                [this](CLI::App& added) {
-                    added.add_option("DIR", vstFolder_, "The folder")->required()->type_name("");
-                });
-        };
-        addChange("add", "Add a folder at the end of the list", RunFoldersAdd);
-        addChange("remove", "Take a folder off the list", RunFoldersRemove);
-    }
-
-    void AddOptionsOptions(CLI::App& command) {
-        command
-            .add_option_function<std::string>(
-                "--csv-program", [this](const std::string& path) { options_.csvProgram = path; },
-                "The program that opens the CSV result files")
-            ->type_name("PATH");
-        const auto addSwitch = [&](const std::string& name, std::optional<bool>& value,
-                                   const std::string& description) {
-            AddChoice<bool>(command, name, value, {{"on", true}, {"off", false}}, description)
-                ->type_name("on|off");
-        };
-        addSwitch("--ignore-directx", options_.ignoreDirectX,
-                  "Leave DirectX plug-ins out of the reports");
-        addSwitch("--ignore-off", options_.ignoreOff,
-                  "Leave plug-ins that are off out of the reports");
     }
 
     int Report(const CLI::ParseError& ending) {
@@ -270,15 +153,8 @@ class CommandLine {
 
     CLI::App app_{"Which plug-ins do your Cubase SX projects use, and which are installed here?",
                   "marlo-cli"};
-    std::string applicationFolder_ = platform::ProgramFolder();
-    PluginsOptions plugins_;
-    SearchOptions search_;
-    InstalledOptions installed_;
-    ReportOptions report_;
-    FindOptions find_;
-    std::string vstFolder_;
-    OptionChanges options_;
-    std::function<int(const Environment&)> command_;
+    CommandOptions options_;
+    const Command* command_ = nullptr;
 };
 
 }  // namespace

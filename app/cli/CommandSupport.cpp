@@ -32,6 +32,10 @@ int ComplainOfPath(const std::string& command, const std::string& path) {
                         std::to_string(kMaxSettingLength) + " bytes cannot be kept");
 }
 
+int ComplainOfNull(const std::string& command) {
+    return Complain(command, kWrongUsage, "--null goes with --format paths only");
+}
+
 std::string Counted(std::size_t count, const std::string& noun) {
     return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }

@@ -25,6 +25,10 @@ int Complain(const std::string& command, int exitCode, const std::string& text);
 /// @return kFailed.
 int ComplainOfPath(const std::string& command, const std::string& path);
 
+/// Says that a NUL byte can only be had behind paths.
+/// @return kWrongUsage.
+int ComplainOfNull(const std::string& command);
+
 /// "1 project", "2 projects".
 std::string Counted(std::size_t count, const std::string& noun);
 

@@ -21,10 +21,23 @@ struct Environment {
     platform::Registry& registry;
 };
 
-enum class OutputFormat { Table, Csv, Json };
+/// The options that work with every command.
+struct SharedOptions {
+    std::string applicationFolder;
+};
+
+enum class OutputFormat { Table, Csv, Json, JsonLines };
 
 /// How a report or the result of a search is printed.
-enum class ListFormat { Table, Csv, Json, Html };
+enum class ListFormat { Table, Csv, Json, Html, Paths };
+
+/// Whether a table shows greyed rows by colours rather than by marks.
+enum class Colours {
+    AsUsual,  ///< as `Auto`, but not where the environment variable NO_COLOR is set, unless to ""
+    Auto,     ///< where the standard output is a terminal that shows them
+    Always,   ///< wherever it goes, but not to a terminal that would show their sequences as text
+    Never,
+};
 
 struct PluginsOptions {
     std::vector<std::string> files;
@@ -32,7 +45,8 @@ struct PluginsOptions {
     OutputFormat format = OutputFormat::Table;
 };
 
-/// Prints the plug-in uses of project files, by their full paths; touches no result file.
+/// Prints the plug-in uses of project files, by their full paths; touches no result file. As lines
+/// of JSON, those of a project are printed when it has been read.
 /// @return kFailed when a file could not be scanned, which is said on the standard error stream;
 ///         what was found is printed all the same.
 int RunPlugins(const Environment& environment, const PluginsOptions& options);
@@ -62,19 +76,26 @@ int RunInstalled(const Environment& environment, const InstalledOptions& options
 struct ReportOptions {
     std::string kind;  ///< as `ShowInstalledPlugins` takes it
     ListFormat format = ListFormat::Table;
+    bool endsWithNull = false;  ///< each path ends with a NUL byte, not with a line feed
+    Colours colours = Colours::AsUsual;
 };
 
 /// Prints a report from the result files.
-/// @return kFailed when anything failed, which is said on the standard error stream; what was found
-///         is printed all the same.
+/// @return kWrongUsage when paths are asked of a report that has none, or a NUL byte behind
+///         something else, kFailed when anything failed, which is said on the standard error
+///         stream; what was found is printed all the same.
 int RunReport(const Environment& environment, const ReportOptions& options);
 
 struct FindOptions {
+    enum class Where { Plugins, Projects };
+
     std::string text;
-    std::string mode;                      ///< as `SearchPane` has it
+    Where where = Where::Plugins;          ///< in whose names the text is looked for
     std::optional<std::string> matchType;  ///< nothing: the one that was chosen last
     std::optional<bool> ignoreCase;        ///< nothing: the same
     ListFormat format = ListFormat::Table;
+    bool endsWithNull = false;  ///< as in `ReportOptions`
+    Colours colours = Colours::AsUsual;
 };
 
 /// Searches the result files and prints what it finds.
@@ -85,13 +106,17 @@ int RunFind(const Environment& environment, const FindOptions& options);
 /// standard error stream too.
 int RunFoldersList(const Environment& environment);
 
+struct FolderOptions {
+    std::string folder;
+};
+
 /// Adds a VST plug-in folder behind the others.
 /// @return kFailed when there is no such folder, or it is in the list already.
-int RunFoldersAdd(const Environment& environment, const std::string& folder);
+int RunFoldersAdd(const Environment& environment, const FolderOptions& options);
 
 /// Takes a VST plug-in folder off the list.
 /// @return kFailed when it is not in the list.
-int RunFoldersRemove(const Environment& environment, const std::string& folder);
+int RunFoldersRemove(const Environment& environment, const FolderOptions& options);
 
 /// The options to set; the others stay as they are.
 struct OptionChanges {

@@ -7,17 +7,21 @@
 namespace marlo::cli {
 
 int RunFind(const Environment& environment, const FindOptions& options) {
+    if (options.endsWithNull && options.format != ListFormat::Paths)
+        return ComplainOfNull("find");
     TerminalWindow window(ProgressStyle::None);
     const Application application = ApplicationOf(environment, window);
     const SearchPane search{
-        .mode = options.mode,
+        .mode = options.where == FindOptions::Where::Projects ? search_mode::kPluginsInProject
+                                                              : search_mode::kProjectsByPlugin,
         .txtSearchText = options.text,
         .cboSearchType =
             options.matchType ? *options.matchType : kMatchTypes.at(ReadMatchType(application)),
         .chkIgnoreCase = options.ignoreCase ? *options.ignoreCase : ReadIgnoreCase(application)};
     ResultPane pane{application, window};
     cmdFind_Click(pane, search);
-    PrintList(pane, options.mode + ": " + options.text, options.format);
+    PrintList(pane, search.mode + ": " + search.txtSearchText,
+              {options.format, options.endsWithNull, options.colours});
     return FinishOutput(window.SawFailure() ? kFailed : kDone);
 }
 

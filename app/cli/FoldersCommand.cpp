@@ -45,7 +45,8 @@ int RunFoldersList(const Environment& environment) {
     return FinishOutput(window.SawFailure() ? kFailed : kDone);
 }
 
-int RunFoldersAdd(const Environment& environment, const std::string& folder) {
+int RunFoldersAdd(const Environment& environment, const FolderOptions& options) {
+    const std::string& folder = options.folder;
     TerminalWindow window(ProgressStyle::None);
     const Application application = ApplicationOf(environment, window);
     std::error_code error;
@@ -61,7 +62,8 @@ int RunFoldersAdd(const Environment& environment, const std::string& folder) {
     return Write(application, window, folders);
 }
 
-int RunFoldersRemove(const Environment& environment, const std::string& folder) {
+int RunFoldersRemove(const Environment& environment, const FolderOptions& options) {
+    const std::string& folder = options.folder;
     TerminalWindow window(ProgressStyle::None);
     const Application application = ApplicationOf(environment, window);
     auto folders = Folders(application);

@@ -4,14 +4,22 @@
 
 namespace marlo::cli {
 
+JsonList::JsonList(std::ostream& out, Layout layout) : out_(out), marks_(MarksOf(layout)) {}
+
+JsonList::Marks JsonList::MarksOf(Layout layout) {
+    if (layout == Layout::Lines)
+        return {"{", "}\n{", "", ", ", "}\n", ""};
+    return {"[\n  {", "\n  },\n  {", "\n    ", ",\n    ", "\n  }\n]\n", "[]\n"};
+}
+
 void JsonList::BeginObject() {
-    out_ << (isEmpty_ ? "[\n  {" : "\n  },\n  {");
+    out_ << (isEmpty_ ? marks_.first : marks_.next);
     isEmpty_ = false;
     isObjectEmpty_ = true;
 }
 
 void JsonList::AddName(std::string_view name) {
-    out_ << (isObjectEmpty_ ? "\n    " : ",\n    ") << JsonText(name) << ": ";
+    out_ << (isObjectEmpty_ ? marks_.firstName : marks_.nextName) << JsonText(name) << ": ";
     isObjectEmpty_ = false;
 }
 
@@ -26,7 +34,7 @@ void JsonList::AddFlag(std::string_view name, bool value) {
 }
 
 void JsonList::End() {
-    out_ << (isEmpty_ ? "[]\n" : "\n  }\n]\n");
+    out_ << (isEmpty_ ? marks_.none : marks_.end);
 }
 
 }  // namespace marlo::cli

@@ -1,7 +1,9 @@
 #include "app/cli/ListOutput.h"
 
+#include <cstdlib>
 #include <iostream>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include "app/cli/CommandSupport.h"
@@ -11,6 +13,7 @@
 #include "platform/Terminal.h"
 #include "reports/ColumnTitles.h"
 #include "reports/ListPage.h"
+#include "reports/PluginReports.h"
 
 namespace marlo::cli {
 
@@ -45,7 +48,28 @@ std::vector<std::string> HeadersOf(const ResultList& list) {
     return headers;
 }
 
-void PrintTable(const ResultList& list) {
+/// Whether the user wants no colours of any program.
+bool WantsNoColours() {
+    const char* const unwanted = std::getenv("NO_COLOR");
+    return unwanted != nullptr && *unwanted != '\0';
+}
+
+bool HasColours(Colours wanted) {
+    using platform::Stream;
+    switch (wanted) {
+        case Colours::AsUsual:
+            return !WantsNoColours() && platform::ShowsColours(Stream::Out);
+        case Colours::Auto:
+            return platform::ShowsColours(Stream::Out);
+        case Colours::Always:
+            return !platform::IsTerminal(Stream::Out) || platform::ObeysSequences(Stream::Out);
+        case Colours::Never:
+            break;
+    }
+    return false;
+}
+
+void PrintTable(const ResultList& list, Colours colours) {
     Table table(HeadersOf(list), MaxColumnWidth());
     bool hasGreyedRows = false;
     for (std::size_t position = 1; position <= list.RowCount(); ++position) {
@@ -53,7 +77,7 @@ void PrintTable(const ResultList& list) {
         table.AddRow(CellsOf(list, row), IsGreyed(list, row));
         hasGreyedRows = hasGreyedRows || IsGreyed(list, row);
     }
-    const bool hasColours = platform::ShowsColours(platform::Stream::Out);
+    const bool hasColours = HasColours(colours);
     table.Print(std::cout, hasColours);
     if (hasGreyedRows && !hasColours)
         std::cout << "* not installed\n";
@@ -97,18 +121,47 @@ void PrintHtml(const ResultPane& pane, const std::string& title) {
     std::cout << (platform::IsTerminal(platform::Stream::Out) ? PrintableLines(page) : page);
 }
 
+/// The column that holds the paths of projects or libraries, 1-based; 0 where there is none.
+int PathColumn(const ResultList& list) {
+    for (int column = 1; column <= list.ColumnCount(); ++column)
+        if (const std::string& header = list.Header(column);
+            header == column_title::kProject || header == column_title::kPath)
+            return column;
+    return 0;
+}
+
+void PrintPaths(const ResultList& list, bool endsWithNull) {
+    const int column = PathColumn(list);
+    if (column == 0 || HoldsPlaceholder(list))
+        return;
+    const bool isForPerson = platform::IsTerminal(platform::Stream::Out);
+    const char end = endsWithNull ? '\0' : '\n';
+    std::unordered_set<std::string_view> printed;
+    for (std::size_t position = 1; position <= list.RowCount(); ++position) {
+        const std::string_view path = list.ColumnText(list.RowAt(position), column);
+        if (path.empty() || path == kNotInstalled || !printed.insert(path).second)
+            continue;
+        if (isForPerson)
+            std::cout << Printable(path) << end;
+        else
+            std::cout << path << end;
+    }
+}
+
 }  // namespace
 
-void PrintList(const ResultPane& pane, const std::string& title, ListFormat format) {
-    switch (format) {
+void PrintList(const ResultPane& pane, const std::string& title, const ListStyle& style) {
+    switch (style.format) {
         case ListFormat::Table:
-            return PrintTable(pane.lstSongs);
+            return PrintTable(pane.lstSongs, style.colours);
         case ListFormat::Csv:
             return PrintCsv(pane.lstSongs);
         case ListFormat::Json:
             return PrintJson(pane.lstSongs);
         case ListFormat::Html:
             return PrintHtml(pane, title);
+        case ListFormat::Paths:
+            return PrintPaths(pane.lstSongs, style.endsWithNull);
     }
 }
 

@@ -2,6 +2,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <unordered_set>
 #include <vector>
 
 #include "app/cli/CommandSupport.h"
@@ -25,12 +26,6 @@ namespace {
 struct Line {
     std::string_view project;
     PluginState plugin;
-};
-
-/// A project, and how many plug-ins the list that is printed has with it and those before it.
-struct ScannedFile {
-    std::string path;
-    std::size_t countBehind = 0;
 };
 
 /// The name may hold commas and quotes of its own, so it is what the fields around it leave over.
@@ -57,8 +52,8 @@ void PrintCsv(const std::vector<Line>& lines) {
     }
 }
 
-void PrintJson(const std::vector<Line>& lines) {
-    JsonList uses(std::cout);
+void PrintJson(const std::vector<Line>& lines, JsonList::Layout layout) {
+    JsonList uses(std::cout, layout);
     for (const Line& line : lines) {
         uses.BeginObject();
         uses.AddText("project", line.project);
@@ -84,8 +79,67 @@ void Print(const std::vector<Line>& lines, OutputFormat format) {
         case OutputFormat::Csv:
             return PrintCsv(lines);
         case OutputFormat::Json:
-            return PrintJson(lines);
+            return PrintJson(lines, JsonList::Layout::Array);
+        case OutputFormat::JsonLines:
+            return PrintJson(lines, JsonList::Layout::Lines);
     }
+}
+
+/// The files' paths as a search would list them: in full.
+std::vector<std::string> FullPaths(const std::vector<std::string>& files) {
+    std::vector<std::string> paths;
+    std::error_code ignored;
+    for (const std::string& file : files)
+        paths.push_back(platform::FullPath(file, ignored));
+    return paths;
+}
+
+/// Scans a project and adds a line for each of its uses, or plug-ins that the lists did not have.
+/// @param project has to stay for as long as the lines.
+/// @return whether it was scanned to its end.
+bool AddLines(const Application& application, SearchLists& lists, const std::string& project,
+              bool merged, std::vector<Line>& lines) {
+    std::size_t count =
+        merged ? lists.ProjectPluginKeys.UpperBound() : lists.PluginOccurrences.size();
+    const bool isScanned = GetPlugins4Project(application, lists, project);
+    if (merged)
+        for (; count < lists.ProjectPluginKeys.UpperBound(); ++count)
+            lines.push_back({project, lists.ProjectPluginKeys[count + 1]});
+    else
+        for (; count < lists.PluginOccurrences.size(); ++count)
+            lines.push_back({project, lists.PluginOccurrences[count]});
+    return isScanned;
+}
+
+/// Scans projects and prints what they use.
+/// @return whether all were scanned to their ends.
+bool PrintProjects(const Application& application, const std::vector<std::string>& projects,
+                   const PluginsOptions& options) {
+    SearchLists lists;
+    std::vector<Line> lines;
+    bool allScansOk = true;
+    for (const std::string& project : projects)
+        allScansOk = AddLines(application, lists, project, options.merged, lines) && allScansOk;
+    Print(lines, options.format);
+    return allScansOk;
+}
+
+/// The same, but prints what a project uses when it is scanned. Only one project is in memory.
+bool PrintOneByOne(const Application& application, const std::vector<std::string>& projects,
+                   const PluginsOptions& options) {
+    std::unordered_set<std::string_view> seen;
+    bool allScansOk = true;
+    for (const std::string& project : projects) {
+        SearchLists lists;
+        std::vector<Line> lines;
+        allScansOk = AddLines(application, lists, project, options.merged, lines) && allScansOk;
+        // A project that is named twice has its plug-ins once.
+        if (!options.merged || seen.insert(project).second)
+            Print(lines, options.format);
+        if (!std::cout.flush())
+            break;  // nobody reads the others
+    }
+    return allScansOk;
 }
 
 }  // namespace
@@ -93,24 +147,10 @@ void Print(const std::vector<Line>& lines, OutputFormat format) {
 int RunPlugins(const Environment& environment, const PluginsOptions& options) {
     TerminalWindow window(ProgressStyle::None);
     const Application application = ApplicationOf(environment, window);
-    SearchLists lists;
-    bool allScansOk = true;
-    std::vector<ScannedFile> scanned;
-    for (const std::string& given : options.files) {
-        // A search would list them by their full paths.
-        std::error_code ignored;
-        const std::string path = platform::FullPath(given, ignored);
-        allScansOk = GetPlugins4Project(application, lists, path) && allScansOk;
-        scanned.push_back({path, options.merged ? lists.ProjectPluginKeys.UpperBound()
-                                                : lists.PluginOccurrences.size()});
-    }
-    std::vector<Line> lines;
-    std::size_t count = 0;
-    for (const auto& [path, countBehind] : scanned)
-        for (; count < countBehind; ++count)
-            lines.push_back({path, options.merged ? lists.ProjectPluginKeys[count + 1]
-                                                  : lists.PluginOccurrences[count]});
-    Print(lines, options.format);
+    const std::vector<std::string> projects = FullPaths(options.files);
+    const bool allScansOk = options.format == OutputFormat::JsonLines
+                                ? PrintOneByOne(application, projects, options)
+                                : PrintProjects(application, projects, options);
     return FinishOutput(allScansOk ? kDone : kFailed);
 }
 

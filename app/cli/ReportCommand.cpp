@@ -6,13 +6,25 @@
 
 namespace marlo::cli {
 
+namespace {
+
+constexpr const char* kCommand = "report";
+
+}  // namespace
+
 int RunReport(const Environment& environment, const ReportOptions& options) {
+    if (options.endsWithNull && options.format != ListFormat::Paths)
+        return ComplainOfNull(kCommand);
+    if (options.kind == report_kind::kUninstalled && options.format == ListFormat::Paths)
+        return Complain(kCommand, kWrongUsage,
+                        "plug-ins that are not installed have no paths to print");
     TerminalWindow window(ProgressStyle::None);
     const Application application = ApplicationOf(environment, window);
     ResultPane pane{application, window};
     ShowInstalledPlugins(pane, options.kind);
     const bool hasColumns = pane.lstSongs.ColumnCount() > 0;
-    PrintList(pane, hasColumns ? pane.lstSongs.Header(1) : "", options.format);
+    PrintList(pane, hasColumns ? pane.lstSongs.Header(1) : "",
+              {options.format, options.endsWithNull, options.colours});
     return FinishOutput(window.SawFailure() ? kFailed : kDone);
 }
 

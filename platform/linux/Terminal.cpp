@@ -66,9 +66,8 @@ bool ObeysSequences(Stream stream) {
 }
 
 bool ShowsColours(Stream stream) {
-    const std::string_view unwanted = Variable("NO_COLOR");
     const std::string_view type = Variable("TERM");
-    return IsTerminal(stream) && unwanted.empty() && !type.empty() && type != "dumb";
+    return IsTerminal(stream) && !type.empty() && type != "dumb";
 }
 
 int TerminalWidth(Stream stream) {

@@ -61,9 +61,7 @@ bool ObeysSequences(Stream stream) {
 }
 
 bool ShowsColours(Stream stream) {
-    const char* const unwanted = std::getenv("NO_COLOR");
-    const bool isWanted = unwanted == nullptr || *unwanted == '\0';
-    return isWanted && ObeysSequences(stream);
+    return ObeysSequences(stream);
 }
 
 int TerminalWidth(Stream stream) {

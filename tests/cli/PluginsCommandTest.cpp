@@ -1,5 +1,7 @@
 #include <filesystem>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -74,6 +76,38 @@ TEST_F(PluginsCommandTest, JsonWithoutAPluginIsAnEmptyList) {
     EXPECT_EQ(Marlo({"plugins", AddProject("a.cpr", {}), "--format", "json"}).out, "[]\n");
 }
 
+TEST_F(PluginsCommandTest, LinesOfJsonAreTheObjectsOfTheListALineEach) {
+    const std::string a = AddUsual();
+    const std::string b = AddProject("b.cpr", {{.name = "x\ny\x1b[2J"}, {.name = "Delay"}});
+    for (const std::vector<std::string>& options :
+         std::vector<std::vector<std::string>>{{a, b, a}, {"--merged", a, b, a}}) {
+        const auto print = [&](const std::string& format) {
+            std::vector<std::string> arguments = {"plugins", "--format", format};
+            arguments.insert(arguments.end(), options.begin(), options.end());
+            return Marlo(arguments).out;
+        };
+        auto expected = nlohmann::ordered_json::parse(print("json"));
+        auto objects = nlohmann::ordered_json::array();
+        std::istringstream lines(print("jsonl"));
+        for (std::string line; std::getline(lines, line);)
+            objects.push_back(nlohmann::ordered_json::parse(line));
+        EXPECT_EQ(objects, expected);
+        EXPECT_EQ(objects.size(), options.size() == 3 ? 8U : 4U);
+    }
+    EXPECT_EQ(Marlo({"plugins", AddProject("none.cpr", {}), "--format", "jsonl"}).out, "");
+}
+
+TEST_F(PluginsCommandTest, LinesOfJsonGoOnBehindAFileThatCannotBeScanned) {
+    const std::string good = AddProject("a.cpr", {{.name = "Delay"}});
+    const auto result = Marlo({"plugins", AddBrokenProject("0.cpr"), good, folder.Path("gone.cpr"),
+                               good, "--format", "jsonl"});
+    EXPECT_EQ(result.exitCode, 1);
+    const std::string line = "{\"project\": " + nlohmann::json(good).dump() +
+                             ", \"plugin\": \"Delay\", \"type\": \"VST\", \"state\": \"On\"}\n";
+    EXPECT_EQ(result.out, line + line);
+    EXPECT_NE(result.error.find("File not found"), std::string::npos);
+}
+
 TEST_F(PluginsCommandTest, AFileThatCannotBeScannedIsSaidAndTheOthersArePrinted) {
     const std::string good = AddProject("a.cpr", {{.name = "Delay"}});
     const std::string gone = folder.Path("songs/gone.cpr");
@@ -125,7 +159,7 @@ TEST_F(PluginsCommandTest, NothingFromAFileReachesATerminalRaw) {
         GTEST_SKIP() << test::kNoUnixShell;
     const std::string path =
         AddProject("a\x1b[31m.cpr", {{.name = "evil\x1b[2J\x1b]0;t\x07\n\xC2\x9B\x7F"}});
-    for (const std::string format : {"table", "csv", "json"}) {
+    for (const std::string format : {"table", "csv", "json", "jsonl"}) {
         auto program = Program::StartInTerminal(CommandLine({"plugins", path, "--format", format}));
         const std::string seen = program.ReadAll();
         EXPECT_EQ(program.Wait(), 0) << format;
@@ -139,6 +173,16 @@ TEST_F(PluginsCommandTest, OutputThatCannotBeWrittenIsAFailure) {
     if (!test::HasUnixShell())
         GTEST_SKIP() << test::kNoUnixShell;
     const std::string command = std::string(MARLO_CLI) + " plugins '" + AddUsual() + "' >/dev/full";
+    const auto result = test::Run({"/bin/sh", "-c", command});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.error, "marlo-cli: the output cannot be written\n");
+}
+
+TEST_F(PluginsCommandTest, LinesOfJsonThatCannotBeWrittenAreAFailureAndNoMoreIsRead) {
+    if (!test::HasUnixShell())
+        GTEST_SKIP() << test::kNoUnixShell;
+    const std::string command = std::string(MARLO_CLI) + " plugins --format jsonl '" + AddUsual() +
+                                "' '" + folder.Path("gone.cpr") + "' >/dev/full";
     const auto result = test::Run({"/bin/sh", "-c", command});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.error, "marlo-cli: the output cannot be written\n");

@@ -1,3 +1,5 @@
+#include "tests/cli/ReportCommandTest.h"
+
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -5,49 +7,14 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "tests/cli/CliTest.h"
 #include "tests/support/System.h"
 
 namespace marlo {
 namespace {
 
 using test::Program;
+using test::ReportCommandTest;
 using Json = nlohmann::ordered_json;
-
-/// A test with result files.
-class ReportCommandTest : public test::CliTest {
-  protected:
-    ReportCommandTest() {
-        test::SetVariable("TZ", "UTC0");
-        WriteResult("installedplugins.csv",
-                    "\"DirectX\",\"DX Echo\",\"<empty>\"\r\n"
-                    "\"VST\",\"R\xE9verb\",\"/vst/R\xC3\xA9verb.dll\"\r\n"
-                    "\"VST\",\"Unused\",\"/vst/Unused.dll\"\r\n");
-        WriteResult("tln.csv",
-                    "\"Tape Delay\",\"VST\",\"Off\"\r\n\"R\xE9verb\",\"VST\",\"On\"\r\n"
-                    "\"DX Echo\",\"DirectX\",\"On\"\r\n");
-        project = folder.Write("songs/a.cpr", "");
-        folder.SetLastChange("songs/a.cpr", 1162050312);
-        WriteResult("fln.csv", "\"" + project + "\",\"Tape Delay\",\"VST    \",\"Off\"\r\n\"" +
-                                   project + "\",\"R\xE9verb\",\"VST    \",\"On\"\r\n");
-    }
-
-    void WriteResult(const std::string& name, const std::string& text) const {
-        folder.Write("app/resultfiles/" + name, text);
-    }
-
-    /// Starts the program in a terminal of a kind, without a wish as to colours.
-    std::string InTerminal(const std::vector<std::string>& arguments, const char* type) const {
-        test::SetVariable("TERM", type);
-        test::ClearVariable("NO_COLOR");
-        auto program = Program::StartInTerminal(CommandLine(arguments));
-        std::string shown = program.ReadAll();
-        EXPECT_EQ(program.Wait(), 0);
-        return shown;
-    }
-
-    std::string project;
-};
 
 TEST_F(ReportCommandTest, TheUsedPluginsAreSortedAndMarkedWhereTheyAreNotInstalled) {
     const auto result = Marlo({"report", "used"});
