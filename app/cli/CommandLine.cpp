@@ -57,6 +57,8 @@ class CommandLine {
         } catch (const CLI::ParseError& ending) {
             return Report(ending);
         }
+        if (command_->answer != nullptr)
+            return command_->answer(options_);
         return Request{std::get<SharedOptions>(options_).applicationFolder,
                        [this](const Environment& environment) {
                            return command_->run(environment, options_);

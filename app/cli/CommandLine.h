@@ -18,8 +18,8 @@ struct Request {
 
 /// Reads a command line.
 /// @param arguments without the program's name.
-/// @return the exit code instead, when the line is wrong or asks for no more than help or the
-///         version, which is printed.
+/// @return the exit code instead, when the line is wrong or asks for no more than help, the version
+///         or a completion, which is printed.
 std::variant<Request, int> ReadCommandLine(std::vector<std::string> arguments);
 
 }  // namespace marlo::cli

@@ -114,6 +114,8 @@ constexpr Named<const char*> kMatches[] = {{"exact", match_type::kExact},
                                            {"ends", match_type::kEndsWith},
                                            {"contains", match_type::kContains}};
 constexpr Named<bool> kOnOff[] = {{"on", true}, {"off", false}};
+constexpr Named<Shell> kShells[] = {
+    {"bash", Shell::Bash}, {"zsh", Shell::Zsh}, {"fish", Shell::Fish}};
 
 // The options that several commands have.
 
@@ -240,6 +242,12 @@ constexpr Argument kOptions[] = {{.name = "--csv-program",
                                   .help = "Leave plug-ins that are off out of the reports",
                                   .value = Choice<&OptionChanges::ignoreOff, kOnOff>}};
 
+constexpr Argument kCompletion[] = {{.name = "SHELL",
+                                     .valueName = "bash|zsh|fish",
+                                     .help = "The shell that runs the script",
+                                     .value = Choice<&CompletionOptions::shell, kShells>,
+                                     .isRequired = true}};
+
 constexpr Command kCommands[] = {
     {.name = "plugins",
      .help = "Print the plug-ins that project files use",
@@ -284,9 +292,22 @@ constexpr Command kCommands[] = {
      .run = Run<RunOptions>},
     {.name = "log",
      .help = "Print when the last runs were, and what was searched",
-     .run = Run<PrintRunLog>}};
+     .run = Run<PrintRunLog>},
+    {.name = "completion",
+     .help = "Print the script that completes command lines in a shell",
+     .arguments = kCompletion,
+     .answer = [](const CommandOptions& options) {
+         return PrintCompletion(std::get<CompletionOptions>(options));
+     }}};
 
 }  // namespace
+
+std::string Value::ChoiceList() const {
+    std::string list;
+    for (const std::string_view name : choices)
+        list.append(list.empty() ? "" : " ").append(name);
+    return list;
+}
 
 std::string Command::Path() const {
     return parent.empty() ? std::string(name) : std::string(parent) + " " + std::string(name);

@@ -7,13 +7,14 @@
 
 #include "app/cli/Commands.h"
 
-// The one description of the program's commands and options. The parser and its help and
-// the test of the manual page have all that they know from here.
+// The one description of the program's commands and options. The parser and its help, the shells'
+// completions and the test of the manual page have all that they know from here.
 namespace marlo::cli {
 
 /// What a command line sets: the options of every command.
-using CommandOptions = std::tuple<SharedOptions, PluginsOptions, SearchOptions, InstalledOptions,
-                                  ReportOptions, FindOptions, FolderOptions, OptionChanges>;
+using CommandOptions =
+    std::tuple<SharedOptions, PluginsOptions, SearchOptions, InstalledOptions, ReportOptions,
+               FindOptions, FolderOptions, OptionChanges, CompletionOptions>;
 
 enum class ValueKind {
     None,     ///< a switch
@@ -34,6 +35,9 @@ struct Value {
     /// Puts a value, which is one of the names of a choice and empty for a switch, where it
     /// belongs.
     void (*set)(CommandOptions& options, const std::string& value) = nullptr;
+
+    /// The names of a choice, with spaces between them.
+    std::string ChoiceList() const;
 };
 
 /// An option or a positional argument.
@@ -61,6 +65,8 @@ struct Command {
     std::span<const Argument> arguments{};
     /// Does it. @return the program's exit code.
     int (*run)(const Environment& environment, const CommandOptions& options) = nullptr;
+    /// The same, of a command that needs no application folder; one of the two is there.
+    int (*answer)(const CommandOptions& options) = nullptr;
 
     /// The command's name behind that of its parent.
     std::string Path() const;

@@ -131,4 +131,13 @@ int RunOptions(const Environment& environment, const OptionChanges& changes);
 /// Prints when the last runs were and what was searched.
 int PrintRunLog(const Environment& environment);
 
+enum class Shell { Bash, Zsh, Fish };
+
+struct CompletionOptions {
+    Shell shell = Shell::Bash;
+};
+
+/// Prints the script that completes the program's command lines in a shell.
+int PrintCompletion(const CompletionOptions& options);
+
 }  // namespace marlo::cli

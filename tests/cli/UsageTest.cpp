@@ -16,7 +16,7 @@ TEST_F(UsageTest, HelpAndVersionAreThereForTheProgramAndForEachCommand) {
     const std::vector<std::vector<std::string>> commands = {
         {},          {"plugins"}, {"search"},          {"installed"},      {"report"},
         {"find"},    {"folders"}, {"folders", "list"}, {"folders", "add"}, {"folders", "remove"},
-        {"options"}, {"log"}};
+        {"options"}, {"log"},     {"completion"}};
     for (auto command : commands) {
         command.emplace_back("--help");
         const auto help = Marlo(command);
@@ -48,7 +48,9 @@ TEST_F(UsageTest, WrongUsageExitsWith2AndSaysWhy) {
                                                          {"folders", "remove"},
                                                          {"folders", "x"},
                                                          {"options", "--ignore-off", "maybe"},
-                                                         {"plugins", "a.cpr", "--format", "xml"}};
+                                                         {"plugins", "a.cpr", "--format", "xml"},
+                                                         {"completion"},
+                                                         {"completion", "tcsh"}};
     for (const auto& arguments : wrong) {
         const auto result = Marlo(arguments);
         EXPECT_EQ(result.exitCode, 2);
