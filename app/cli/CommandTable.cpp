@@ -35,8 +35,6 @@ void Set(CommandOptions& options, const std::string& value) {
 }
 
 template <auto field>
-constexpr Value Project{.kind = ValueKind::Project, .set = Set<field>};
-template <auto field>
 constexpr Value Projects{.kind = ValueKind::Project, .isList = true, .set = Set<field>};
 template <auto field>
 constexpr Value Folder{.kind = ValueKind::Folder, .set = Set<field>};
