@@ -47,7 +47,7 @@ test-long: build
 	ctest --preset long
 
 sanitized:
-	@$(PACKAGES) build
+	@$(PACKAGES) build test
 	@cmake --preset sanitizer --log-level=WARNING
 	@cmake --build --preset sanitizer
 
@@ -82,7 +82,7 @@ fuzz: fuzzers ## Run each fuzzer for a minute, or for SECONDS
 	tests/in-memory fuzz/run build/fuzz $(or $(SECONDS),60)
 
 coverage: ## Tell which lines of the logic no test runs; fails below 97 %
-	@$(PACKAGES) build coverage
+	@$(PACKAGES) build test coverage
 	@cmake --preset coverage --log-level=WARNING
 	@cmake --build --preset coverage
 	@find build/coverage -name '*.gcda' -delete
