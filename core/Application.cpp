@@ -11,22 +11,22 @@ namespace {
 
 constexpr std::string_view kResultFolder = "resultfiles";
 
-std::string ResultFolderName(const Application& application) {
+}  // namespace
+
+std::string ResultFolder(const std::string& applicationFolder) {
     std::error_code error;
-    std::string usual(kResultFolder);
-    if (platform::IsFolder(platform::JoinPath(application.folder, usual), error))
+    std::string usual = platform::JoinPath(applicationFolder, kResultFolder);
+    if (platform::IsFolder(usual, error))
         return usual;
-    const auto folder = platform::Folder::Open(application.folder, error);
+    const auto folder = platform::Folder::Open(applicationFolder, error);
     if (error)
         return usual;
     const auto names = folder.Entries(error).folders;
     const auto found = std::find_if(names.begin(), names.end(), [](const std::string& name) {
         return EqualIgnoringCase(name, kResultFolder);
     });
-    return found == names.end() ? usual : *found;
+    return found == names.end() ? usual : platform::JoinPath(applicationFolder, *found);
 }
-
-}  // namespace
 
 std::string ApplicationPath(const Application& application, std::string_view relativePath) {
     std::string path = application.folder;
@@ -34,8 +34,8 @@ std::string ApplicationPath(const Application& application, std::string_view rel
         relativePath.remove_prefix(1);
         const std::string_view name = relativePath.substr(0, relativePath.find('\\'));
         relativePath.remove_prefix(name.size());
-        const bool isResultFolder = EqualIgnoringCase(name, kResultFolder);
-        path = platform::JoinPath(path, isResultFolder ? ResultFolderName(application) : name);
+        path = EqualIgnoringCase(name, kResultFolder) ? ResultFolder(application.folder)
+                                                      : platform::JoinPath(path, name);
     }
     return path;
 }

@@ -32,10 +32,13 @@ struct Application {
 /// The title of message boxes that have none of their own.
 inline constexpr std::string_view kApplicationTitle = "Marlo";
 
-/// The full path of a file under the application folder.
-///
-/// The result folder may be spelt in any case here and on the disk, also on a file system that
-/// tells cases apart.
+/// The full path of the result folder under an application folder. It may be spelt in any case on
+/// the disk, also on a file system that tells cases apart; where it is missing, it has its usual
+/// name.
+std::string ResultFolder(const std::string& applicationFolder);
+
+/// The full path of a file under the application folder. What is said of the result folder on the
+/// disk goes for its name here, too.
 ///
 /// @param relativePath names joined by "\", with a "\" in front, for example
 ///        "\resultfiles\results.csv" (see ResultFileNames.h).

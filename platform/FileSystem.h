@@ -70,6 +70,14 @@ bool IsFolder(const std::string& path, std::error_code& error);
 /// The local date and time of the last change of the file at `path`. A folder is no file.
 std::tm LastModified(const std::string& path, std::error_code& error);
 
+/// Makes a folder, in one that exists, which nobody but its owner may look into where the system
+/// tells users apart. What is there already stays, and is refused as `errc::file_exists`.
+void MakeFolder(const std::string& path, std::error_code& error);
+
+/// Finds out whether this user may make files in a folder that exists, without making one.
+/// @param error why not; cleared when it is allowed.
+void CheckWritable(const std::string& folder, std::error_code& error);
+
 /// Deletes the file at `path`.
 void RemoveFile(const std::string& path, std::error_code& error);
 

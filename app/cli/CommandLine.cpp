@@ -30,7 +30,6 @@ std::string NamesOf(const Argument& argument) {
 class CommandLine {
   public:
     CommandLine() {
-        std::get<SharedOptions>(options_).applicationFolder = platform::ProgramFolder();
         // A path may begin with a slash on every system.
         app_.allow_windows_style_options(false);
         app_.require_subcommand(1);

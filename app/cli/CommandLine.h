@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -11,7 +12,7 @@ namespace marlo::cli {
 
 /// What the user asks for.
 struct Request {
-    std::string applicationFolder;  ///< as it was given
+    std::optional<std::string> applicationFolder;  ///< as it was given, if it was
     /// Does it. @return the program's exit code.
     std::function<int(const Environment&)> command;
 };

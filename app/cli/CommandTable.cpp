@@ -154,7 +154,7 @@ constexpr Argument kShared[] = {
     {.name = "--app-folder",
      .valueName = "DIR",
      .help = "The application folder, with settings.ini and resultfiles in it (default: the "
-             "program's own folder)",
+             "program's own folder; for an installed program ~/.local/share/marlo)",
      .value = Folder<&SharedOptions::applicationFolder>}};
 
 constexpr Argument kPlugins[] = {

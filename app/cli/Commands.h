@@ -23,7 +23,7 @@ struct Environment {
 
 /// The options that work with every command.
 struct SharedOptions {
-    std::string applicationFolder;
+    std::optional<std::string> applicationFolder;  ///< nothing: the program's usual one
 };
 
 enum class OutputFormat { Table, Csv, Json, JsonLines };

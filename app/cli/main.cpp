@@ -1,12 +1,11 @@
 #include <iostream>
 #include <string>
-#include <system_error>
 #include <variant>
 
+#include "app/ApplicationFolder.h"
 #include "app/cli/CommandLine.h"
 #include "app/cli/TerminalText.h"
 #include "core/RunTimeError.h"
-#include "platform/FileSystem.h"
 #include "platform/Machine.h"
 #include "platform/Terminal.h"
 
@@ -14,16 +13,20 @@ namespace marlo::cli {
 
 namespace {
 
+void Say(const std::string& text) {
+    std::cerr << "marlo-cli: " << Printable(text) << '\n';
+}
+
 int Run(const Request& request) {
-    std::error_code error;
-    const std::string folder = platform::FullPath(request.applicationFolder, error);
-    if (error || !platform::IsFolder(folder, error)) {
-        std::cerr << "marlo-cli: the application folder " << Printable(request.applicationFolder)
-                  << " does not exist\n";
+    const ApplicationFolder folder = FindApplicationFolder(request.applicationFolder);
+    for (const std::string& warning : folder.warnings)
+        Say(warning);
+    if (!folder.failure.empty()) {
+        Say(folder.failure);
         return kFailed;
     }
-    return request.command(
-        {folder, platform::SystemClock(), platform::SystemDesktop(), platform::SystemRegistry()});
+    return request.command({folder.path, platform::SystemClock(), platform::SystemDesktop(),
+                            platform::SystemRegistry()});
 }
 
 int RunCommandLine(int argc, char** argv) {

@@ -74,6 +74,10 @@ bool Form1Window::Show(bool show) {
     return hasChanged;
 }
 
+void Form1Window::Warn(const std::string& text) {
+    Later([this, text] { form_.ShowMessage({.text = text, .icon = MessageIcon::Exclamation}); });
+}
+
 /// The window is on a screen of another resolution.
 void Form1Window::FollowScreen() {
     controls_.FollowScreen();

@@ -26,6 +26,9 @@ class Form1Window final : public wxFrame, private FormView {
 
     bool Show(bool show = true) override;
 
+    /// Shows the user a message over the window once that is there.
+    void Warn(const std::string& text);
+
     Form1& Logic() { return form_; }
 
   private:

@@ -7,6 +7,7 @@
 #include <wx/log.h>
 #include <wx/window.h>
 
+#include "app/ApplicationFolder.h"
 #include "app/gui/TextConversion.h"
 #include "platform/FileSystem.h"
 
@@ -39,7 +40,7 @@ std::string PicturePath(const std::string& applicationFolder, const std::string&
     };
     std::error_code error;
     const std::string own = in(applicationFolder);
-    return platform::IsFile(own, error) ? own : in(platform::ProgramFolder());
+    return platform::IsFile(own, error) ? own : in(ProgramFiles());
 }
 
 wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSize& size) {

@@ -1,14 +1,19 @@
 #include <exception>
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <system_error>
+#include <utility>
+#include <wx/log.h>
 
 #include <CLI/CLI.hpp>
 
+#include "app/ApplicationFolder.h"
 #include "app/cli/TerminalText.h"
 #include "app/gui/Form1Window.h"
 #include "app/gui/GuiApp.h"
+#include "app/gui/MessageBox.h"
 #include "core/ErrorLog.h"
 #include "platform/Announce.h"
 #include "platform/FileSystem.h"
@@ -20,24 +25,33 @@ namespace {
 
 /// What the program was started with.
 struct Options {
-    std::string applicationFolder = platform::ProgramFolder();
+    std::optional<std::string> applicationFolder;
     std::string winePrefix;  ///< empty for the user's own
 };
 
-/// Where the help and donation pages are: on a web site, or in a folder beside the program.
-std::string HelpSite() {
+/// Where the help and donation pages are: on a web site, or in a folder that is looked for as the
+/// program's pictures are.
+std::string HelpSite(const std::string& applicationFolder) {
     std::string site = MARLO_HELP_SITE;
-    const bool isAddress = site.find("://") != std::string::npos;
-    return isAddress ? site : platform::JoinPath(platform::ProgramFolder(), site);
+    if (site.find("://") != std::string::npos)
+        return site;
+    std::error_code error;
+    std::string own = platform::JoinPath(applicationFolder, site);
+    return platform::IsFolder(own, error) ? own : platform::JoinPath(ProgramFiles(), site);
 }
 
 class MarloApp final : public GuiApp {
   public:
-    explicit MarloApp(const Application& application) : application_(application) {}
+    /// @param warning for the user; empty for none.
+    MarloApp(const Application& application, std::string warning)
+        : application_(application), warning_(std::move(warning)) {}
 
     bool OnInit() override {
         GuiApp::OnInit();
-        (new Form1Window(application_, HelpSite()))->Show();
+        auto* const window = new Form1Window(application_, HelpSite(application_.folder));
+        window->Show();
+        if (!warning_.empty())
+            window->Warn(warning_);
         return true;
     }
 
@@ -50,6 +64,22 @@ class MarloApp final : public GuiApp {
 
   private:
     const Application& application_;
+    const std::string warning_;
+};
+
+/// Shows a message in the place of the window.
+class RefusingApp final : public GuiApp {
+  public:
+    explicit RefusingApp(std::string text) : text_(std::move(text)) {}
+
+    bool OnInit() override {
+        GuiApp::OnInit();
+        ShowMessageBox(nullptr, {.text = text_, .icon = MessageIcon::Exclamation});
+        return false;
+    }
+
+  private:
+    const std::string text_;
 };
 
 int Complain(const std::string& text) {
@@ -57,12 +87,25 @@ int Complain(const std::string& text) {
     return 1;
 }
 
+/// Runs an application of the toolkit's to its end. @return the exit code.
+int Run(GuiApp* app, char* programName) {
+    wxApp::SetInstance(app);
+    int count = 1;
+    return wxEntry(count, &programName);
+}
+
 /// Shows the window until it is closed.
 int Run(const Options& options, char* programName) {
+    const ApplicationFolder folder = FindApplicationFolder(options.applicationFolder);
+    if (!folder.failure.empty()) {
+        Complain(folder.failure);
+        // Who starts the program from a menu sees no stream.
+        const wxLogNull quiet;  // about a display that is not there
+        if (!options.applicationFolder)
+            Run(new RefusingApp("Marlo cannot start: " + folder.failure + "."), programName);
+        return 1;
+    }
     std::error_code error;
-    const std::string folder = platform::FullPath(options.applicationFolder, error);
-    if (error || !platform::IsFolder(folder, error))
-        return Complain("the application folder " + options.applicationFolder + " does not exist");
     std::unique_ptr<platform::Registry> prefix;
     if (!options.winePrefix.empty()) {
         prefix = platform::OpenWinePrefix(options.winePrefix, error);
@@ -70,14 +113,15 @@ int Run(const Options& options, char* programName) {
             return Complain(options.winePrefix + ": no Wine prefix that can be read (" +
                             error.message() + ")");
     }
-    const Application application{folder,
+    std::string warning;
+    for (const std::string& sentence : folder.warnings)
+        warning += (warning.empty() ? "" : "\n\n") + sentence;
+    const Application application{folder.path,
                                   platform::SystemClock(),
                                   platform::SystemDesktop(),
                                   prefix ? *prefix : platform::SystemRegistry(),
                                   {}};
-    wxApp::SetInstance(new MarloApp(application));
-    int count = 1;
-    return wxEntry(count, &programName);
+    return Run(new MarloApp(application, std::move(warning)), programName);
 }
 
 /// Reads the command line, and runs what it asks for.
@@ -93,7 +137,7 @@ int RunCommandLine(int argc, char** argv) {
     commandLine
         .add_option("--app-folder", options.applicationFolder,
                     "The application folder, with settings.ini and resultfiles in it (default: the "
-                    "program's own folder)")
+                    "program's own folder; for an installed program ~/.local/share/marlo)")
         ->type_name("DIR");
     if (platform::HasWinePrefixes())
         commandLine

@@ -114,6 +114,18 @@ std::tm LastModified(const std::string& path, std::error_code& error) {
     return moment;
 }
 
+void MakeFolder(const std::string& path, std::error_code& error) {
+    error = CheckPath(path);
+    if (!error && mkdir(path.c_str(), S_IRWXU) != 0)
+        error = PosixError();
+}
+
+void CheckWritable(const std::string& folder, std::error_code& error) {
+    error = CheckPath(folder);
+    if (!error && faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) != 0)
+        error = PosixError();
+}
+
 void RemoveFile(const std::string& path, std::error_code& error) {
     error = CheckPath(path);
     if (!error && unlink(path.c_str()) != 0)

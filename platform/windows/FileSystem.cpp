@@ -146,6 +146,25 @@ std::tm LastModified(const std::string& path, std::error_code& error) {
     return MomentOf(local);
 }
 
+void MakeFolder(const std::string& path, std::error_code& error) {
+    error = CheckPath(path);
+    if (!error && CreateDirectoryW(WidePath(path).c_str(), nullptr) == FALSE)
+        error = LastWindowsError();
+}
+
+void CheckWritable(const std::string& folder, std::error_code& error) {
+    error = CheckPath(folder);
+    if (error)
+        return;
+    const HANDLE handle = CreateFileW(WidePath(folder).c_str(), FILE_ADD_FILE,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        error = LastWindowsError();
+    else
+        CloseHandle(handle);
+}
+
 void RemoveFile(const std::string& path, std::error_code& error) {
     error = CheckPath(path);
     if (!error && DeleteFileW(WidePath(path).c_str()) == FALSE)

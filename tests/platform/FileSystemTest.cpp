@@ -99,6 +99,37 @@ TEST_F(FileSystemTest, AFullPathKeepsItsLinksAndLosesWhatIsNoName) {
     EXPECT_FALSE(error);
 }
 
+TEST_F(FileSystemTest, AFolderIsMadeInOneThatExistsAndNothingIsReplaced) {
+    MakeFolder(folder.Path("new"), error);
+    EXPECT_FALSE(error);
+    EXPECT_TRUE(IsFolder(folder.Path("new"), error));
+    folder.Write("new/file", "whole");
+    MakeFolder(folder.Path("new"), error);
+    EXPECT_EQ(error, std::errc::file_exists);
+    MakeFolder(folder.Path("new/file"), error);
+    EXPECT_EQ(error, std::errc::file_exists);
+    EXPECT_EQ(folder.Read("new/file"), "whole");
+    MakeFolder(folder.Path("gone/new"), error);
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+}
+
+TEST_F(FileSystemTest, AFolderCanBeWrittenToWithoutAnythingBeingMade) {
+    CheckWritable(folder.Path(), error);
+    EXPECT_FALSE(error);
+    EXPECT_TRUE(Folder::Open(folder.Path(), error).Entries(error).files.empty());
+    CheckWritable(folder.Path("gone"), error);
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+}
+
+TEST_F(FileSystemTest, AReadOnlyFolderCannotBeWrittenTo) {
+    if (!test::CanBeOrdinaryUser())
+        GTEST_SKIP() << test::kNoOrdinaryUser;
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms{0555});
+    const test::OrdinaryUser user;
+    CheckWritable(folder.Path(), error);
+    EXPECT_EQ(error, std::errc::permission_denied);
+}
+
 TEST_F(FileSystemTest, MovingIntoPlaceReplacesAFile) {
     folder.Write("old", "old");
     MoveIntoPlace(folder.Write("new", "new"), folder.Path("old"), error);
@@ -131,6 +162,11 @@ TEST_F(FileSystemTest, APathWithANulIsRefusedAndNotCutThere) {
     expectRefusal();
     RemoveFile(file + behind, error);
     expectRefusal();
+    MakeFolder(folder.Path("made") + behind, error);
+    expectRefusal();
+    CheckWritable(folder.Path() + behind, error);
+    expectRefusal();
+    EXPECT_FALSE(folder.Exists("made"));
     MoveIntoPlace(file + behind, folder.Path("moved"), error);
     expectRefusal();
     MoveIntoPlace(file, folder.Path("moved") + behind, error);

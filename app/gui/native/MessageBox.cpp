@@ -7,9 +7,9 @@
 namespace marlo::gui {
 
 MessageAnswer ShowMessageBox(wxWindow* owner, const Message& message) {
-    return platform::ShowMessageBox(owner->GetHandle(), Shown(message.text).ToStdWstring(),
-                                    Shown(message.title).ToStdWstring(), message.buttons,
-                                    message.icon);
+    return platform::ShowMessageBox(
+        owner == nullptr ? nullptr : owner->GetHandle(), Shown(message.text).ToStdWstring(),
+        Shown(message.title).ToStdWstring(), message.buttons, message.icon);
 }
 
 }  // namespace marlo::gui

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/FileSystem.h"
+#include "platform/Installation.h"
 
 namespace marlo::platform {
 namespace {
@@ -23,6 +24,11 @@ TEST(PathTest, AFullPathHasADriveAndBackslashes) {
     EXPECT_EQ(FullPath("C:\\\xD0\x9F\xD1\x80\\\xE6\x9B\xB2 \xF0\x9F\x8E\xB9", error),
               "C:\\\xD0\x9F\xD1\x80\\\xE6\x9B\xB2 \xF0\x9F\x8E\xB9");
     EXPECT_FALSE(error);
+}
+
+TEST(PathTest, ProgramsKeepWhatTheyHaveInTheirOwnFolder) {
+    EXPECT_EQ(InstallPrefix(), std::nullopt);
+    EXPECT_EQ(UserDataFolder(), std::nullopt);
 }
 
 TEST(ParentPathTest, IsWhatStandsInFrontOfTheLastBackslash) {
