@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <vector>
 #include <wx/uiaction.h>
 
 #include <gtest/gtest.h>
@@ -19,7 +20,8 @@ namespace {
 using std::filesystem::perms;
 
 /// A place in the caption "Help", in pixels from the left top of the window.
-constexpr wxPoint kHelpItem(60, 351);
+constexpr int kHelpLeft = 60;
+constexpr int kHelpTop = 351;
 
 class ProgramTest : public testing::Test {
   protected:
@@ -28,11 +30,12 @@ class ProgramTest : public testing::Test {
         test::SetVariable("HOME", folder.MakeFolder("home"));
         std::filesystem::permissions(folder.Path("home"), perms::all);
         test::ClearVariable("XDG_DATA_HOME");
-        // For an ordinary user, too.
+        // An ordinary user has to get at the screen, too.
         const char* const authority = std::getenv("XAUTHORITY");
         if (authority == nullptr)
             return;
-        std::filesystem::copy(authority, folder.Path("authority"));
+        static const std::string path = authority;
+        std::filesystem::copy(path, folder.Path("authority"));
         std::filesystem::permissions(folder.Path("authority"), perms{0644});
         test::SetVariable("XAUTHORITY", folder.Path("authority"));
     }
@@ -46,9 +49,21 @@ class ProgramTest : public testing::Test {
 
     /// Waits until there are that many windows. @return the one that came last.
     static test::ScreenWindow WaitForWindows(std::size_t count) {
-        EXPECT_TRUE(test::RunEventsUntil([&] { return test::WindowsOnScreen().size() == count; }));
-        const auto windows = test::WindowsOnScreen();
+        std::vector<test::ScreenWindow> windows;
+        EXPECT_TRUE(test::RunEventsUntil([&] {
+            windows = test::WindowsOnScreen();
+            return windows.size() == count;
+        }));
         return windows.empty() ? test::ScreenWindow() : windows.back();
+    }
+
+    /// Waits until the one window has its icon, and what comes with it.
+    static void WaitForIcon() {
+        EXPECT_TRUE(test::RunEventsUntil([] {
+            const auto windows = test::WindowsOnScreen();
+            return windows.size() == 1 && windows.front().hasIcon;
+        }));
+        test::RunEvents();
     }
 
     test::TempFolder folder;
@@ -60,7 +75,7 @@ TEST_F(ProgramTest, InstalledItHasItsPicturesAndKeepsWhatItWritesInTheHomeFolder
     auto program = test::Program::Start({Place("usr/bin")});
     const auto window = WaitForWindows(1);
     EXPECT_EQ(window.title, "Marlo");
-    EXPECT_TRUE(test::RunEventsUntil([] { return test::WindowsOnScreen().front().hasIcon; }));
+    WaitForIcon();
     test::CloseOnScreen(window);
     EXPECT_EQ(program.Wait(), 0);
     EXPECT_TRUE(folder.Exists("home/.local/share/marlo/settings.ini"));
@@ -89,7 +104,7 @@ TEST_F(ProgramTest, InstalledItHasItsHelpBesideItsPictures) {
         test::RepeatUntil([&] { return folder.Exists("note") && folder.Read("note") == page; },
                           [&] {
                               wxUIActionSimulator mouse;
-                              mouse.MouseMove(window.left + kHelpItem.x, window.top + kHelpItem.y);
+                              mouse.MouseMove(window.left + kHelpLeft, window.top + kHelpTop);
                               mouse.MouseClick();
                           }));
     test::CloseOnScreen(window);
@@ -130,8 +145,7 @@ TEST_F(ProgramTest, UnpackedWhereItCanWriteItSaysNothing) {
     auto program = test::Program::Start({path});
     WaitForWindows(1);
     // A warning would come with the icon.
-    EXPECT_TRUE(test::RunEventsUntil([] { return test::WindowsOnScreen().front().hasIcon; }));
-    test::RunEvents();
+    WaitForIcon();
     test::CloseOnScreen(WaitForWindows(1));
     EXPECT_EQ(program.Wait(), 0);
     EXPECT_TRUE(folder.Exists("marlo/settings.ini"));

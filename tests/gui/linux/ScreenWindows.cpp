@@ -44,7 +44,8 @@ std::vector<ScreenWindow> WindowsOnScreen() {
     std::vector<ScreenWindow> windows;
     for (const unsigned long id :
          Property<unsigned long>(DefaultRootWindow(Screen()), "_NET_CLIENT_LIST")) {
-        ScreenWindow window{.id = id};
+        ScreenWindow window;
+        window.id = id;
         const auto title = Property<char>(id, "_NET_WM_NAME");
         window.title.assign(title.begin(), title.end());
         const auto owner = Property<unsigned long>(id, "WM_TRANSIENT_FOR");
