@@ -57,13 +57,20 @@ class ProgramTest : public testing::Test {
         return windows.empty() ? test::ScreenWindow() : windows.back();
     }
 
-    /// Waits until the one window has its icon, and what comes with it.
+    /// Waits until the one window has its icon, in its small size, too, and what comes with it.
     static void WaitForIcon() {
         EXPECT_TRUE(test::RunEventsUntil([] {
             const auto windows = test::WindowsOnScreen();
-            return windows.size() == 1 && windows.front().hasIcon;
+            return windows.size() == 1 && windows.front().iconWidths.contains(16);
         }));
         test::RunEvents();
+    }
+
+    /// Waits for the program's end. @return its exit code.
+    static int EndOf(test::Program& program) {
+        if (!test::RunEventsUntil([&] { return !program.IsRunning(); }))
+            program.Kill();
+        return program.Wait();
     }
 
     test::TempFolder folder;
@@ -77,7 +84,7 @@ TEST_F(ProgramTest, InstalledItHasItsPicturesAndKeepsWhatItWritesInTheHomeFolder
     EXPECT_EQ(window.title, "Marlo");
     WaitForIcon();
     test::CloseOnScreen(window);
-    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_EQ(EndOf(program), 0);
     EXPECT_TRUE(folder.Exists("home/.local/share/marlo/settings.ini"));
     EXPECT_TRUE(folder.Exists("home/.local/share/marlo/resultfiles"));
     EXPECT_FALSE(folder.Exists("usr/bin/settings.ini"));
@@ -108,7 +115,7 @@ TEST_F(ProgramTest, InstalledItHasItsHelpBesideItsPictures) {
                               mouse.MouseClick();
                           }));
     test::CloseOnScreen(window);
-    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_EQ(EndOf(program), 0);
 }
 
 TEST_F(ProgramTest, InstalledItSaysInABoxThatItsFolderCannotBeMade) {
@@ -118,7 +125,7 @@ TEST_F(ProgramTest, InstalledItSaysInABoxThatItsFolderCannotBeMade) {
     const auto box = WaitForWindows(1);
     EXPECT_EQ(box.title, "Marlo");
     test::CloseOnScreen(box);
-    EXPECT_EQ(program.Wait(), 1);
+    EXPECT_EQ(EndOf(program), 1);
 }
 
 TEST_F(ProgramTest, UnpackedWhereItCannotWriteItSaysSoOverItsWindow) {
@@ -134,7 +141,7 @@ TEST_F(ProgramTest, UnpackedWhereItCannotWriteItSaysSoOverItsWindow) {
     test::CloseOnScreen(box);
     WaitForWindows(1);
     test::CloseOnScreen(window);
-    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_EQ(EndOf(program), 0);
     EXPECT_FALSE(folder.Exists("marlo/settings.ini"));
 }
 
@@ -147,7 +154,7 @@ TEST_F(ProgramTest, UnpackedWhereItCanWriteItSaysNothing) {
     // A warning would come with the icon.
     WaitForIcon();
     test::CloseOnScreen(WaitForWindows(1));
-    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_EQ(EndOf(program), 0);
     EXPECT_TRUE(folder.Exists("marlo/settings.ini"));
 }
 

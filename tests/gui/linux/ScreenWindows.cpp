@@ -36,6 +36,14 @@ std::vector<Item> Property(Window window, const char* name) {
     return items;
 }
 
+/// @param icons each of them a width, a height, and the pixels.
+std::set<std::size_t> IconWidths(const std::vector<unsigned long>& icons) {
+    std::set<std::size_t> widths;
+    for (std::size_t at = 0; at + 1 < icons.size(); at += 2 + icons[at] * icons[at + 1])
+        widths.insert(icons[at]);
+    return widths;
+}
+
 }  // namespace
 
 std::vector<ScreenWindow> WindowsOnScreen() {
@@ -50,7 +58,7 @@ std::vector<ScreenWindow> WindowsOnScreen() {
         window.title.assign(title.begin(), title.end());
         const auto owner = Property<unsigned long>(id, "WM_TRANSIENT_FOR");
         window.owner = owner.empty() ? 0 : owner.front();
-        window.hasIcon = !Property<unsigned long>(id, "_NET_WM_ICON").empty();
+        window.iconWidths = IconWidths(Property<unsigned long>(id, "_NET_WM_ICON"));
         Window child = None;
         XTranslateCoordinates(Screen(), id, DefaultRootWindow(Screen()), 0, 0, &window.left,
                               &window.top, &child);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -10,9 +12,9 @@ namespace marlo::test {
 struct ScreenWindow {
     std::uint64_t id = 0;
     std::string title;
-    std::uint64_t owner = 0;  ///< the window that it is shown over; 0 for none
-    bool hasIcon = false;     ///< of its own
-    int left = 0;             ///< of what is inside its frame, in pixels
+    std::uint64_t owner = 0;           ///< the window that it is shown over; 0 for none
+    std::set<std::size_t> iconWidths;  ///< in pixels; window managers give one to those without
+    int left = 0;                      ///< of what is inside its frame, in pixels
     int top = 0;
 };
 
