@@ -12,7 +12,7 @@ MARLO_BASE ?= HEAD~1
 
 .PHONY: help run build test check sanitized test-sanitized test-fuzzers test-long test-asan-gui \
 	test-windows soak fuzz fuzzers coverage bench bench-counts bench-windows package test-package \
-	package-windows 	screenshots pictures format lint clean
+	package-windows screenshots pictures format lint clean
 
 help: ## List the targets
 	@sed -n 's/^\([a-z-]*\):.*## /  make \1\t/p' $(MAKEFILE_LIST) | expand -t 24
