@@ -5,7 +5,8 @@ PACKAGES := packaging/install-packages
 LOGIC    := platform core scan inventory reports dialogs ui app/cli
 SOURCES  := git ls-files '*.h' '*.cpp'
 
-JOBS     := $(shell nproc)
+# Most tests wait for a program or a display half of their time.
+JOBS     := $(shell expr 2 '*' "$$(nproc)")
 CTEST    := tests/in-memory ctest -j $(JOBS)
 # What changed since then is linted.
 MARLO_BASE ?= HEAD~1
@@ -70,7 +71,7 @@ test-windows: ## Build for Windows and run every test under Wine
 	@cmake --build --preset normal --target marlo-cli marlo-samples
 	@packaging/windows/configure windows64
 	@cmake --build --preset windows64
-	tests/windows/with-wine ctest --preset windows64 -j $(JOBS) --repeat after-timeout:2
+	tests/windows/with-wine ctest --preset windows64 -j "$$(nproc)" --repeat after-timeout:2
 	@tests/windows/run-32-bit
 
 fuzzers:
