@@ -40,11 +40,17 @@ HANDLE StartProcess(const std::vector<std::string>& arguments, const std::string
     start.hStdError = error;
     const std::wstring folder = PathOf(workingFolder).wstring();
     PROCESS_INFORMATION process{};
-    // A group of its own, so that it alone is interrupted.
-    if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE,
-                       CREATE_NEW_PROCESS_GROUP, nullptr, folder.empty() ? nullptr : folder.c_str(),
-                       &start, &process) == FALSE)
-        throw std::runtime_error("cannot start " + arguments.at(0));
+    // A group of its own, so that it alone is interrupted. Now and then Wine starts no program, but
+    // does so when it is asked again.
+    bool hasStarted = false;
+    for (int attempt = 0; attempt < 2 && !hasStarted; ++attempt)
+        hasStarted =
+            CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE,
+                           CREATE_NEW_PROCESS_GROUP, nullptr,
+                           folder.empty() ? nullptr : folder.c_str(), &start, &process) != FALSE;
+    if (!hasStarted)
+        throw std::runtime_error("cannot start " + arguments.at(0) + " (error " +
+                                 std::to_string(GetLastError()) + ")");
     CloseHandle(process.hThread);
     return process.hProcess;
 }
