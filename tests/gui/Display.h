@@ -36,6 +36,9 @@ std::string TitleOf(const wxWindow& window);
 /// Whether a window shows an icon of its own.
 bool HasIcon(const wxTopLevelWindow& window);
 
+/// Whether the screen shows a window in the size that it was given last.
+bool HasItsSize(const wxTopLevelWindow& window);
+
 /// Brings a minimised window back, as the user does.
 void Restore(wxTopLevelWindow& window);
 

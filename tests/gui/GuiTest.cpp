@@ -61,7 +61,12 @@ std::string GuiTest::StatusText(const std::string& box) {
 }
 
 wxRect GuiTest::PlaceOf(const wxWindow& control) const {
-    return {window_->ScreenToClient(control.GetScreenPosition()), control.GetSize()};
+    // Without asking the screen, on which the window manager may move the window meanwhile.
+    wxPoint corner = control.GetPosition();
+    for (const wxWindow* parent = control.GetParent(); parent != window_;
+         parent = parent->GetParent())
+        corner += parent->GetPosition() + parent->GetClientAreaOrigin();
+    return {corner, control.GetSize()};
 }
 
 std::set<std::size_t> GuiTest::EnabledItems() {

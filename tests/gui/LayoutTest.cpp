@@ -15,7 +15,8 @@ class LayoutTest : public test::ListGuiTest {
     void Resize(const wxSize& client) {
         Window().SetClientSize(client);
         ASSERT_TRUE(test::RunEventsUntil([&] {
-            return Window().GetClientSize() == client && EdgeOf("Text1", wxBOTTOM) == client.y;
+            return Window().GetClientSize() == client && test::HasItsSize(Window()) &&
+                   EdgeOf("Text1", wxBOTTOM) == client.y;
         }));
         test::RunEvents();
     }
@@ -120,7 +121,7 @@ TEST_F(LayoutTest, AMinimisedWindowLeavesItsControlsWhereTheyWere) {
     EXPECT_TRUE(test::RunEventsUntil([&] {
         return Bottom("boxMenu") < before.at("boxMenu").GetBottom();
     })) << "the layout is run when the window is back";
-    EXPECT_EQ(PlaceOf(List()), before.at("lstSongs"));
+    EXPECT_TRUE(test::RunEventsUntil([&] { return PlaceOf(List()) == before.at("lstSongs"); }));
 }
 
 }  // namespace

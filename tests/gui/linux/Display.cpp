@@ -73,6 +73,12 @@ bool HasIcon(const wxTopLevelWindow& window) {
     return window.GetIcons().GetIcon(48).IsOk();
 }
 
+bool HasItsSize(const wxTopLevelWindow& window) {
+    GdkWindow* const shown = gtk_widget_get_window(window.GetHandle());
+    return shown != nullptr && window.GetClientSize() == wxSize(gdk_window_get_width(shown),
+                                                                gdk_window_get_height(shown));
+}
+
 void Restore(wxTopLevelWindow& window) {
     window.Restore();
 }

@@ -99,6 +99,10 @@ bool HasIcon(const wxTopLevelWindow& window) {
            SendMessage(HandleOf(window), WM_GETICON, ICON_SMALL, 0) != 0;
 }
 
+bool HasItsSize(const wxTopLevelWindow& /*window*/) {
+    return true;  // it has it at once
+}
+
 void Restore(wxTopLevelWindow& window) {
     // The toolkit's own way does not tell that it is back.
     PostMessage(HandleOf(window), WM_SYSCOMMAND, SC_RESTORE, 0);
