@@ -12,7 +12,7 @@
 #include "core/Records.h"
 #include "core/Settings.h"
 #include "inventory/DirectXPlugins.h"
-#include "inventory/ScanVSTFolder.h"
+#include "inventory/GetInstalledPlugins.h"
 #include "platform/Machine.h"
 #include "reports/ListPage.h"
 #include "reports/PluginReports.h"

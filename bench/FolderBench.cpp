@@ -11,7 +11,7 @@
 #include "bench/QuietWindow.h"
 #include "bench/Report.h"
 #include "core/LineWriter.h"
-#include "inventory/ScanVSTFolder.h"
+#include "inventory/GetInstalledPlugins.h"
 #include "scan/ProjectDiscovery.h"
 #include "scan/SearchLists.h"
 

@@ -15,6 +15,7 @@
 #include "bench/Report.h"
 #include "core/LineWriter.h"
 #include "inventory/DirectXPlugins.h"
+#include "inventory/GetInstalledPlugins.h"
 #include "inventory/InstalledPlugins.h"
 #include "platform/FileSystem.h"
 #include "platform/Machine.h"

@@ -22,10 +22,10 @@ std::string ResultFolder(const std::string& applicationFolder) {
     if (error)
         return usual;
     const auto names = folder.Entries(error).folders;
-    const auto found = std::find_if(names.begin(), names.end(), [](const std::string& name) {
-        return EqualIgnoringCase(name, kResultFolder);
+    const auto found = std::ranges::find_if(names, [](const platform::SubfolderEntry& entry) {
+        return EqualIgnoringCase(entry.name, kResultFolder);
     });
-    return found == names.end() ? usual : platform::JoinPath(applicationFolder, *found);
+    return found == names.end() ? usual : platform::JoinPath(applicationFolder, found->name);
 }
 
 std::string ApplicationPath(const Application& application, std::string_view relativePath) {

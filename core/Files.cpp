@@ -90,6 +90,9 @@ bool StagedFile::Try(const Attempt& attempt) {
 }
 
 bool StagedFile::Create() {
+    std::error_code ignored;
+    if (platform::IsFolder(path_, ignored))
+        throw RunTimeError(ErrorNumber::PathFileAccess);
     const std::string stagingPath = path_ + ".new";
     const bool isCreated = Try([&](std::error_code& error) {
         writer_ = LineWriter(platform::File::OpenExclusively(stagingPath, error));

@@ -45,8 +45,8 @@ class StagedFile {
 
     /// Creates the new version. Asks while that is denied, also because another running program
     /// is writing one.
-    /// @throws RunTimeError when it cannot be created for another reason, or there is no old file
-    ///         to ask about.
+    /// @throws RunTimeError when it cannot be created for another reason, there is no old file to
+    ///         ask about, or a folder is in the file's place.
     bool Create();
 
     /// Writes the new version's lines.

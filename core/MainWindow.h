@@ -44,8 +44,8 @@ class MainWindow {
 
     /// Fits each column of the result list to the wider of its header and its cells.
     virtual void AutoSizeListViewColumns() = 0;
-    /// Shades the result list's rows in two colours, in turn (see reports/Ledger.h). Its failures
-    /// are its own.
+    /// Shades the result list's rows in two colours, in turn (see
+    /// reports/AlternateColourOnListview.h). Its failures are its own.
     /// @param bar1Colour the first row's; blue in the high byte, red in the low one.
     /// @param bar2Colour the second row's.
     /// @param sizingKind what decides the height of a row.

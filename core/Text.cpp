@@ -77,18 +77,6 @@ bool EqualIgnoringCase(std::string_view left, std::string_view right) {
     return UpperCaseUtf8(left) == UpperCaseUtf8(right);
 }
 
-void SortIgnoringCase(std::vector<std::string>& names) {
-    std::vector<std::pair<std::u32string, std::string>> keyed;
-    keyed.reserve(names.size());
-    for (std::string& name : names) {
-        std::u32string key = UpperCase(Decode(name));
-        keyed.emplace_back(std::move(key), std::move(name));
-    }
-    std::sort(keyed.begin(), keyed.end());
-    for (std::size_t i = 0; i < names.size(); ++i)
-        names[i] = std::move(keyed[i].second);
-}
-
 std::string_view TrimSpaces(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string_view::npos)

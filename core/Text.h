@@ -1,7 +1,11 @@
 #pragma once
 
+#include <algorithm>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "platform/AnsiCodePage.h"
@@ -35,8 +39,26 @@ std::string UpperCaseUtf8(std::string_view field);
 /// Whether two fields are the same text but for the case of their characters.
 bool EqualIgnoringCase(std::string_view left, std::string_view right);
 
-/// Sorts names by their characters without regard to case.
-void SortIgnoringCase(std::vector<std::string>& names);
+/// Sorts entries by the characters of their names without regard to case.
+/// @param nameOf a function, or a member, that gives an entry's name.
+template <class Entry, class NameOf = std::identity>
+void SortIgnoringCase(std::vector<Entry>& entries, NameOf nameOf = {}) {
+    struct Keyed {
+        std::u32string key;
+        Entry entry;
+    };
+    std::vector<Keyed> keyed;
+    keyed.reserve(entries.size());
+    for (Entry& entry : entries) {
+        std::u32string key = UpperCase(Decode(std::invoke(nameOf, entry)));
+        keyed.push_back({std::move(key), std::move(entry)});
+    }
+    std::ranges::sort(keyed, {}, [&](const Keyed& item) {
+        return std::tie(item.key, std::invoke(nameOf, item.entry));
+    });
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        entries[i] = std::move(keyed[i].entry);
+}
 
 /// `text` without the spaces at both ends. Other white space stays.
 std::string_view TrimSpaces(std::string_view text);

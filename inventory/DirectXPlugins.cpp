@@ -7,6 +7,7 @@
 #include "core/Records.h"
 #include "core/RunTimeError.h"
 #include "inventory/FilterData.h"
+#include "inventory/GetInstalledPlugins.h"
 #include "inventory/ReadRegistry.h"
 
 namespace marlo {

@@ -6,21 +6,12 @@
 
 #include "core/Application.h"
 #include "core/LineWriter.h"
-#include "core/MainWindow.h"
 
 namespace marlo {
 
 /// The friendly names that a run has written, so that a filter that is registered in two places is
 /// written once. Holds the empty name from the start.
 using SeenNames = std::unordered_set<std::string>;
-
-/// Writes a line for each DirectX effect that is registered on this machine and that Cubase SX can
-/// use. Looks in three places of the registry, one after the other, and shows each in the window's
-/// second status box.
-///
-/// A key that cannot be opened ends its walk without a word, a failure in it with an entry in the
-/// error log; the next walk goes on. What fails at a single filter costs that filter only.
-void GetDirectXPlugins(const Application& application, MainWindow& window, LineWriter& output);
 
 /// The first walk: the classes of HKEY_CLASSES_ROOT, "CLSID", whose merit is that of DirectX
 /// effects. A "Merit" that is no number is a failure, logged under "GetCLSIDPlugins", which ends

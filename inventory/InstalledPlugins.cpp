@@ -7,8 +7,7 @@
 #include "core/LineWriter.h"
 #include "core/ResultFileNames.h"
 #include "core/Settings.h"
-#include "inventory/DirectXPlugins.h"
-#include "inventory/ScanVSTFolder.h"
+#include "inventory/GetInstalledPlugins.h"
 #include "inventory/VstFolders.h"
 
 namespace marlo {
@@ -18,15 +17,15 @@ namespace {
 /// Scans the folders of the settings until the user cancels.
 void ScanVSTFolders(const Application& application, MainWindow& window, LineWriter& output,
                     InventorySummary& summary) {
-    for (const std::string& folder : ReadVstFolders(application)) {
+    VisitVstFolders(application, [&](const std::string& folder) {
         bool cancelled = false;
         ScanVSTFolder(application, window, folder, true, output, cancelled);
         if (cancelled) {
             summary.outcome = InventoryOutcome::Cancelled;
             window.ShowMessage({.text = "Cancelled"});
-            return;
         }
-    }
+        return !cancelled;
+    });
 }
 
 void FindPlugins(const Application& application, MainWindow& window, LineWriter& output,
@@ -50,12 +49,13 @@ void RunPart(const Application& application, InventorySummary& summary,
 }
 
 void ReplaceList(const Application& application, MainWindow& window, InventorySummary& summary) {
+    // Before the old list is deleted: where there is no room for a new one, the old one stays.
+    StagedFile list(application, window, result_file::kInstalledPlugins);
+    if (!list.Create())
+        return;
     MessageAnswer answer = MessageAnswer::None;
     AskCloseFileInUse(application, window, result_file::kInstalledPlugins, answer);
     if (answer == MessageAnswer::Cancel)
-        return;
-    StagedFile list(application, window, result_file::kInstalledPlugins);
-    if (!list.Create())
         return;
     RunPart(application, summary, [&] { FindPlugins(application, window, list.Lines(), summary); });
     // Also after a failure: what was found until then is kept.
@@ -69,13 +69,16 @@ void ReplaceList(const Application& application, MainWindow& window, InventorySu
 
 InventorySummary RefreshPlugins(const Application& application, MainWindow& window) {
     InventorySummary summary;
-    window.SetCancelTag("");
-    window.DisableButtons();
-    RunPart(application, summary, [&] { ReplaceList(application, window, summary); });
+    RunPart(application, summary, [&] {
+        window.SetCancelTag("");
+        window.DisableButtons();
+        ReplaceList(application, window, summary);
+    });
+    // Each of these is reached whatever happens to the one before.
     if (summary.outcome == InventoryOutcome::Failed)
-        ShowUnexpectedError(window);
-    window.EnableButtons();
-    window.ClearStatusBar();
+        RunPart(application, summary, [&] { ShowUnexpectedError(window); });
+    RunPart(application, summary, [&] { window.EnableButtons(); });
+    RunPart(application, summary, [&] { window.ClearStatusBar(); });
     return summary;
 }
 

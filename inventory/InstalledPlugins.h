@@ -29,9 +29,10 @@ struct InventorySummary {
 ///
 /// Writes setting 15 (date and time), also after the user cancelled. Cancel is seen when the scan
 /// enters a folder. An unexpected failure is logged under "RefreshPlugins" and told to the user.
-/// The file is deleted at the start and there again at the end (see `StagedFile`); what ends the
-/// program in between leaves none. However the run ends, the file keeps what was found, or as much
-/// of it as the disk took, the buttons are enabled again and the status boxes cleared.
+/// The old file is deleted at the start, once a new one can be written, and the new one is there at
+/// the end (see `StagedFile`); what ends the program in between leaves none. However the run ends,
+/// the file keeps what was found, or as much of it as the disk took, the buttons are enabled again
+/// and the status boxes cleared.
 InventorySummary RefreshPlugins(const Application& application, MainWindow& window);
 
 /// Answers for one report or search which plug-ins are installed, from

@@ -1,15 +1,11 @@
-#include "inventory/ScanVSTFolder.h"
-
-#include <algorithm>
 #include <system_error>
 #include <utility>
-#include <vector>
 
 #include "core/FolderWalk.h"
 #include "core/Records.h"
 #include "core/RunTimeError.h"
-#include "core/Text.h"
 #include "inventory/DirectXPlugins.h"
+#include "inventory/GetInstalledPlugins.h"
 #include "platform/AnsiCodePage.h"
 #include "platform/FileSystem.h"
 
@@ -17,48 +13,23 @@ namespace marlo {
 
 namespace {
 
-class LibraryWalk {
+class LibraryWriter final : public FolderVisitor {
   public:
-    LibraryWalk(const Application& application, MainWindow& window, bool includeSubfolders,
-                LineWriter& output)
-        : application_(application),
-          window_(window),
-          includeSubfolders_(includeSubfolders),
-          output_(output) {}
+    /// @param startText what to show of the start, in the place of its full path.
+    LibraryWriter(MainWindow& window, std::string startText, LineWriter& output)
+        : window_(window), startText_(std::move(startText)), output_(output) {}
 
-    /// @return false when the user cancelled, which ends the walk.
-    bool Visit(const std::string& path) {
-        window_.SetText2(path);
+    bool EnterFolder(const std::string& path) override {
+        const std::string start = std::exchange(startText_, {});
+        window_.SetText2(start.empty() ? path : start);
         window_.LetEventsRun();
         window_.LetEventsRun();  // for a click that the first round has only put into the queue
-        if (window_.CancelTag() == kCancelTag)
-            return false;
-        std::error_code error;
-        auto folder = platform::Folder::Open(path, error);
-        if (error)
-            return true;
-        auto entries = visited_.ReadOnce(std::move(folder));
-        if (!entries)
-            return true;
-        VisitFiles(path, std::move(entries->files));
-        return !includeSubfolders_ || VisitSubfolders(path, std::move(entries->folders));
+        return window_.CancelTag() != kCancelTag;
     }
 
-  private:
-    void VisitFiles(const std::string& folder, std::vector<platform::FileEntry> files) {
-        for (const std::string& name :
-             FilesOfTypes(application_, folder, std::move(files), {"Application Extension"}))
-            Write(name, platform::JoinPath(folder, name));
-    }
+    void CannotOpen(const std::string& /*path*/, const std::error_code& /*error*/) override {}
 
-    bool VisitSubfolders(const std::string& folder, std::vector<std::string> names) {
-        SortIgnoringCase(names);
-        return std::all_of(names.begin(), names.end(), [&](const std::string& name) {
-            return Visit(platform::JoinPath(folder, name));
-        });
-    }
-
-    void Write(const std::string& fileName, const std::string& path) {
+    void VisitFile(const std::string& path, const std::string& fileName) override {
         const std::size_t dot = fileName.rfind('.');
         if (dot == std::string::npos)
             throw RunTimeError(ErrorNumber::InvalidProcedureCall);
@@ -67,19 +38,23 @@ class LibraryWalk {
             output_.WriteLine(QuotedFields({"VST", name, path}));
     }
 
-    const Application& application_;
+  private:
     MainWindow& window_;
-    bool includeSubfolders_;
+    std::string startText_;  ///< until it is shown
     LineWriter& output_;
-    VisitedFolders visited_;
 };
 
 }  // namespace
 
 void ScanVSTFolder(const Application& application, MainWindow& window, const std::string& folder,
                    bool includeSubfolders, LineWriter& output, bool& cancelled) {
-    cancelled =
-        !LibraryWalk(application, window, includeSubfolders, output).Visit(folder) || cancelled;
+    LibraryWriter writer(window, folder, output);
+    std::error_code ignored;  // a path that has no full one cannot be opened either
+    const FolderWalk walk{.start = platform::FullPath(folder, ignored),
+                          .includeSubfolders = includeSubfolders,
+                          .types = {"Application Extension"}};
+    if (!WalkFolder(application, walk, writer))
+        cancelled = true;
 }
 
 }  // namespace marlo

@@ -23,15 +23,22 @@ std::string SharedVstFolder(const Application& application) {
 
 }  // namespace
 
-std::vector<std::string> ReadVstFolders(const Application& application) {
+void VisitVstFolders(const Application& application,
+                     const std::function<bool(const std::string& folder)>& visit) {
     constexpr std::int32_t last = std::numeric_limits<std::int16_t>::max();
-    std::vector<std::string> folders;
     for (std::int32_t record = setting::kFirstVstFolder; record <= last; ++record) {
-        std::string folder = getSetting(application, static_cast<std::int16_t>(record));
-        if (folder.empty())
+        const std::string folder = getSetting(application, static_cast<std::int16_t>(record));
+        if (folder.empty() || !visit(folder))
             break;
-        folders.push_back(std::move(folder));
     }
+}
+
+std::vector<std::string> ReadVstFolders(const Application& application) {
+    std::vector<std::string> folders;
+    VisitVstFolders(application, [&](const std::string& folder) {
+        folders.push_back(folder);
+        return true;
+    });
     return folders;
 }
 

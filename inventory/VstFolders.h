@@ -1,11 +1,18 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "core/Application.h"
 
 namespace marlo {
+
+/// Reads the VST plug-in folders of the settings one by one, record 50 and up, to the first empty
+/// one.
+/// @param visit called with each before the next is read; returns false to end.
+void VisitVstFolders(const Application& application,
+                     const std::function<bool(const std::string& folder)>& visit);
 
 /// The VST plug-in folders of the settings, record 50 and up, to the first empty one.
 std::vector<std::string> ReadVstFolders(const Application& application);

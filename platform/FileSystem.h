@@ -1,12 +1,12 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <ctime>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <utility>
 #include <vector>
 
 namespace marlo::platform {
@@ -14,11 +14,18 @@ namespace marlo::platform {
 // Paths are byte strings as the file system gave them. Every routine that takes one and an `error`
 // refuses a path that holds a NUL byte as `errc::invalid_argument`.
 
-/// Names that stay the same for one file or folder whatever path leads to it: device and number.
-using FileIdentity = std::pair<std::uint64_t, std::uint64_t>;
+/// What tells a folder from every other one, whatever path leads to it.
+struct FolderIdentity {
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
+    std::string realPath;  ///< only where the file system has no numbers; else empty
 
-/// What a folder's listing tells of a file, which saves looking at the file itself.
-enum class FileKind { Unknown, Regular };
+    auto operator<=>(const FolderIdentity&) const = default;
+};
+
+/// What a folder's listing tells of a file, which saves looking at the file itself. A link is not
+/// followed: `Link` stands for whatever it leads to.
+enum class FileKind { Unknown, Regular, Link };
 
 /// A file in a folder.
 struct FileEntry {
@@ -26,10 +33,16 @@ struct FileEntry {
     FileKind kind = FileKind::Unknown;
 };
 
+/// A folder in a folder.
+struct SubfolderEntry {
+    std::string name;
+    bool isLink = false;
+};
+
 /// What is in a folder, "." and ".." left out, in no particular order.
 struct FolderEntries {
-    std::vector<FileEntry> files;      ///< whatever is not a folder
-    std::vector<std::string> folders;  ///< the names of folders, and of links to folders
+    std::vector<FileEntry> files;         ///< whatever is not a folder
+    std::vector<SubfolderEntry> folders;  ///< folders, and links to folders
 };
 
 /// An open folder; closed when it goes out of scope. Every routine clears `error` or sets it.
@@ -45,7 +58,7 @@ class Folder {
     ~Folder();
 
     /// Which folder this is, whatever path or link led to it.
-    FileIdentity Identity(std::error_code& error) const;
+    FolderIdentity Identity(std::error_code& error) const;
 
     /// Reads the folder's entries from the first one on.
     /// @return those that came before the error, if there is one.
@@ -89,10 +102,16 @@ void MoveIntoPlace(const std::string& from, const std::string& to, std::error_co
 /// Windows machine have "\" between their names wherever the program runs.
 std::optional<std::string> ParentPath(const std::string& path);
 
-/// `path` from the root on, without "." steps and doubled separators, and without a separator at
-/// its end. Links stay as they are, except that a path with ".." steps is resolved through them.
+/// `path` from the root on, without "." and ".." steps and doubled separators, and without a
+/// separator at its end. Links stay as they are. A ".." behind one is resolved as the system does:
+/// on Linux it leads out of the folder that the link leads to, on Windows back to the link's own.
 /// After an error the path as it was given.
 std::string FullPath(const std::string& path, std::error_code& error);
+
+/// The path, from the root on and without links, of the file or folder that `path` leads to. Two
+/// paths lead to the same place if their real paths are the same text.
+/// @return empty after an error.
+std::string RealPath(const std::string& path, std::error_code& error);
 
 /// The folder that holds the running program, without a separator at its end; "." when the system
 /// does not tell.

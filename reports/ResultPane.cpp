@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/Settings.h"
-#include "reports/Ledger.h"
+#include "reports/AlternateColourOnListview.h"
 
 namespace marlo {
 

@@ -16,9 +16,9 @@ using DateNumber = double;
 /// of their names without regard to case, a folder's own files before those of its subfolders.
 ///
 /// A file is a project when the desktop describes its type as "CubaseSX Project" or "CPR File"; on
-/// Linux that is a regular file with the extension `.cpr` (see `platform::Desktop`). No folder is
-/// visited twice, whatever links lead to it. Each project found is shown in the window's second
-/// status box, and events run.
+/// Linux that is a regular file with the extension `.cpr` (see `platform::Desktop`). Each project
+/// is listed once, under its real path if that lies in `folder` (see `WalkFolder`). It is shown in
+/// the window's second status box, and events run, before the next file is asked about.
 ///
 /// @param folder where to start; nothing is added when it cannot be opened.
 /// @param sameAsLastRun,lastRunDate handed down to the subfolders and not used otherwise.

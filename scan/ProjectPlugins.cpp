@@ -37,8 +37,8 @@ class RecordCollector {
         Account(keyLength + stateLength);
 
         lastRecord_ = QuotedFields({path_, reader.Text(bank.nameStart, bank.nameEnd), type});
-        const PluginState plugin =
-            lists_.ProjectPluginKeys.Merge(lastRecord_, state, [&] { Account(keyLength); });
+        const PluginState plugin = MergeState(lists_.ProjectPluginKeys, lists_.ProjectPluginStates,
+                                              lastRecord_, state, [&] { Account(keyLength); });
         lists_.PluginOccurrences.push_back({plugin.key, state});
     }
 

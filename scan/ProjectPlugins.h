@@ -14,7 +14,8 @@ inline constexpr std::size_t kMaxRecordText = std::size_t{256} * 1024 * 1024;
 
 /// Scans one project file for plug-ins and appends a record for each bank found to
 /// `lists.PluginOccurrences`, and for each plug-in of the project to `lists.ProjectPluginKeys`,
-/// where its states are merged. Path and names go into the records byte for byte.
+/// with its merged state in `lists.ProjectPluginStates`. Path and names go into the records byte
+/// for byte.
 ///
 /// @param path the project's path, which need not be free of commas or quotes.
 /// @return true when the file was scanned, also when it ends in the middle of a bank. False after a

@@ -12,24 +12,34 @@ namespace marlo {
 
 namespace {
 
-/// Writes a line for each of `plugins`.
-template <class PluginStates>
+/// Writes the lines of the plug-ins that `pluginAt` gives for the indexes from 1 to `count`.
+/// @return false when the user cancels.
+template <class PluginAt>
 bool WriteStates(const Application& application, MainWindow& window, std::string_view relativePath,
-                 const PluginStates& plugins) {
+                 std::size_t count, PluginAt pluginAt) {
     StagedFile file(application, window, relativePath);
     if (!file.Create())
         return false;
-    for (const PluginState& plugin : plugins)
-        file.Lines().WriteLine(RecordOf(plugin));
+    for (std::size_t index = 1; index <= count; ++index)
+        file.Lines().WriteLine(RecordOf(pluginAt(index)));
     return file.MoveIntoPlace();
 }
 
+bool WriteStates(const Application& application, MainWindow& window, std::string_view relativePath,
+                 const KeyList& keys, const StateList& states) {
+    return WriteStates(application, window, relativePath, keys.UpperBound(),
+                       [&](std::size_t index) {
+                           return PluginState{keys[index], states[index]};
+                       });
+}
+
 /// Merges the plug-ins of all projects by name and type.
-/// @param ok set to false when a key could not be split.
-MergedStates MergeProjects(const Application& application, const MergedStates& projectPlugins,
-                           bool& ok) {
-    MergedStates merged;
-    for (const auto& [key, state] : projectPlugins) {
+/// @return false when a key could not be split.
+bool MergeProjects(const Application& application, const SearchLists& lists, KeyList& tlnKeys,
+                   StateList& tlnStates) {
+    bool ok = true;
+    for (std::size_t index = 1; index <= lists.ProjectPluginKeys.UpperBound(); ++index) {
+        const std::string_view key = lists.ProjectPluginKeys[index];
         const auto fields = SplitRecord(application, key, 3);
         if (fields.empty()) {
             WriteErrorLog(application,
@@ -39,9 +49,10 @@ MergedStates MergeProjects(const Application& application, const MergedStates& p
             ok = false;
             continue;
         }
-        merged.Merge(QuotedFields({fields[1], fields[2]}), state);
+        MergeState(tlnKeys, tlnStates, QuotedFields({fields[1], fields[2]}),
+                   lists.ProjectPluginStates[index]);
     }
-    return merged;
+    return ok;
 }
 
 }  // namespace
@@ -50,13 +61,17 @@ bool CreateResultFiles(const Application& application, MainWindow& window,
                        const SearchLists& lists) {
     bool ok = true;
     const bool completed = RunGuarded(application, "CreateResultFiles", [&] {
-        if (!WriteStates(application, window, result_file::kOccurrences, lists.PluginOccurrences))
+        const auto& occurrences = lists.PluginOccurrences;
+        if (!WriteStates(application, window, result_file::kOccurrences, occurrences.size(),
+                         [&](std::size_t index) { return occurrences[index - 1]; }))
             return;
-        if (!WriteStates(application, window, result_file::kProjectPlugins,
-                         lists.ProjectPluginKeys))
+        if (!WriteStates(application, window, result_file::kProjectPlugins, lists.ProjectPluginKeys,
+                         lists.ProjectPluginStates))
             return;
-        const auto merged = MergeProjects(application, lists.ProjectPluginKeys, ok);
-        WriteStates(application, window, result_file::kUsedPlugins, merged);
+        KeyList tlnKeys;
+        StateList tlnStates;
+        ok = MergeProjects(application, lists, tlnKeys, tlnStates);
+        WriteStates(application, window, result_file::kUsedPlugins, tlnKeys, tlnStates);
     });
     return ok && completed;
 }

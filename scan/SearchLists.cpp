@@ -6,44 +6,51 @@ namespace marlo {
 
 namespace {
 
-template <class Entry>
-const Entry& EntryAt(const std::vector<Entry>& entries, std::size_t index) {
-    if (index < 1 || index > entries.size())
+void CheckIndex(std::size_t index, std::size_t upperBound) {
+    if (index < 1 || index > upperBound)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-    return entries[index - 1];
 }
 
 }  // namespace
 
 std::string_view TextList::operator[](std::size_t index) const {
-    return EntryAt(texts_, index);
+    CheckIndex(index, UpperBound());
+    return texts_[index - 1];
 }
 
 void TextList::Append(std::string_view text) {
     texts_.push_back(arena_.Copy(text));
 }
 
-const PluginState& MergedStates::operator[](std::size_t index) const {
-    return EntryAt(entries_, index);
+std::string_view KeyList::operator[](std::size_t index) const {
+    CheckIndex(index, UpperBound());
+    return keys_[index - 1];
 }
 
-PluginState MergedStates::Merge(std::string_view key, std::string_view state,
-                                const std::function<void()>& beforeAdding) {
-    std::size_t number = 0;
+std::size_t KeyList::FindOrAdd(std::string_view key, const std::function<void()>& beforeAdding) {
+    return keys_.FindOrAdd(key, beforeAdding) + 1;
+}
+
+std::string_view StateList::operator[](std::size_t index) const {
+    CheckIndex(index, UpperBound());
+    return states_[index - 1];
+}
+
+PluginState MergeState(KeyList& keys, StateList& states, std::string_view key,
+                       std::string_view state, const std::function<void()>& beforeAdding) {
+    std::size_t index = 0;
     try {
-        number = keys_.FindOrAdd(key, [&] {
+        index = keys.FindOrAdd(key, [&] {
             beforeAdding();
-            entries_.push_back({{}, kOff});
+            states.Append();
         });
     } catch (...) {
-        entries_.resize(keys_.Size());
+        states.Shrink(keys.UpperBound());  // the key may have failed after its state was added
         throw;
     }
-    PluginState& entry = entries_[number];
-    entry.key = keys_[number];
     if (state == kOn)
-        entry.state = kOn;
-    return entry;
+        states.TurnOn(index);
+    return {keys[index], states[index]};
 }
 
 std::string RecordOf(const PluginState& plugin) {

@@ -13,7 +13,7 @@
 #include "inventory/InstalledPlugins.h"
 #include "inventory/VstFolders.h"
 #include "platform/FileSystem.h"
-#include "reports/Ledger.h"
+#include "reports/AlternateColourOnListview.h"
 #include "reports/ReportView.h"
 #include "scan/SearchRun.h"
 #include "ui/OpenResultsFile.h"

@@ -104,7 +104,9 @@ bool AddLines(const Application& application, SearchLists& lists, const std::str
     const bool isScanned = GetPlugins4Project(application, lists, project);
     if (merged)
         for (; count < lists.ProjectPluginKeys.UpperBound(); ++count)
-            lines.push_back({project, lists.ProjectPluginKeys[count + 1]});
+            lines.push_back({project,
+                             {.key = lists.ProjectPluginKeys[count + 1],
+                              .state = lists.ProjectPluginStates[count + 1]}});
     else
         for (; count < lists.PluginOccurrences.size(); ++count)
             lines.push_back({project, lists.PluginOccurrences[count]});

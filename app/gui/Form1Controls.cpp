@@ -13,7 +13,7 @@
 
 #include "app/gui/Theme.h"
 #include "platform/Toolkit.h"
-#include "reports/Ledger.h"
+#include "reports/AlternateColourOnListview.h"
 
 namespace marlo::gui {
 

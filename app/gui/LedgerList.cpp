@@ -8,7 +8,7 @@
 #include "app/gui/TextConversion.h"
 #include "app/gui/Theme.h"
 #include "app/gui/TwipScale.h"
-#include "reports/Ledger.h"
+#include "reports/AlternateColourOnListview.h"
 #include "reports/ResultPane.h"
 #include "ui/CellText.h"
 #include "ui/ColumnFit.h"

@@ -27,8 +27,8 @@ class LedgerList final : public wxListCtrl {
     /// path needs.
     void AutoSizeColumns();
 
-    /// Shades the rows (see reports/Ledger.h), with bands as high as the sizing kind calls for
-    /// where the toolkit lets them.
+    /// Shades the rows (see reports/AlternateColourOnListview.h), with bands as high as the sizing
+    /// kind calls for where the toolkit lets them.
     void SetLedger(std::int32_t bar1Colour, std::int32_t bar2Colour, std::int32_t sizingKind);
     void RemoveLedger();
 

@@ -13,7 +13,7 @@
 #include "app/gui/TextConversion.h"
 #include "app/gui/TwipScale.h"
 #include "platform/Toolkit.h"
-#include "reports/Ledger.h"
+#include "reports/AlternateColourOnListview.h"
 
 namespace marlo::gui {
 

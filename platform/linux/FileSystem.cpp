@@ -1,6 +1,5 @@
 #include "platform/FileSystem.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
@@ -27,12 +26,33 @@ bool ReadStatus(const std::string& path, struct stat& status, std::error_code& e
     return false;
 }
 
-bool IsFolderEntry(int folder, const dirent& entry) {
-    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN)
-        return entry.d_type == DT_DIR;
+/// The type of an entry of an open folder, in the terms of its listing. Some file systems do not
+/// list it.
+unsigned char TypeOf(int folder, const dirent& entry) {
     struct stat status {};
-    return fstatat(folder, static_cast<const char*>(entry.d_name), &status, 0) == 0 &&
-           S_ISDIR(status.st_mode);
+    if (entry.d_type == DT_UNKNOWN &&
+        fstatat(folder, static_cast<const char*>(entry.d_name), &status, AT_SYMLINK_NOFOLLOW) == 0)
+        return IFTODT(status.st_mode);
+    return entry.d_type;
+}
+
+/// Whether a link in an open folder leads to a folder.
+bool LeadsToFolder(int folder, const char* link) {
+    struct stat status {};
+    return fstatat(folder, link, &status, 0) == 0 && S_ISDIR(status.st_mode);
+}
+
+FileKind KindOf(unsigned char type) {
+    if (type == DT_LNK)
+        return FileKind::Link;
+    return type == DT_REG ? FileKind::Regular : FileKind::Unknown;
+}
+
+/// Where ".." leads from the folder at `path`.
+std::filesystem::path ParentFolder(const std::filesystem::path& path, std::error_code& error) {
+    const bool isLink = std::filesystem::is_symlink(path, error);
+    error.clear();  // what is not there is no link
+    return isLink ? std::filesystem::canonical(path, error).parent_path() : path.parent_path();
 }
 
 }  // namespace
@@ -54,11 +74,11 @@ Folder::~Folder() {
         closedir(static_cast<DIR*>(handle_));
 }
 
-FileIdentity Folder::Identity(std::error_code& error) const {
+FolderIdentity Folder::Identity(std::error_code& error) const {
     struct stat status {};
     error =
         fstat(dirfd(static_cast<DIR*>(handle_)), &status) == 0 ? std::error_code() : PosixError();
-    return {status.st_dev, status.st_ino};
+    return {.device = status.st_dev, .number = status.st_ino, .realPath = {}};
 }
 
 FolderEntries Folder::Entries(std::error_code& error) const {
@@ -74,15 +94,15 @@ FolderEntries Folder::Entries(std::error_code& error) const {
                 error = PosixError();
             return entries;
         }
-        const std::string_view name = static_cast<const char*>(entry->d_name);
-        if (name == "." || name == "..")
+        const char* const name = static_cast<const char*>(entry->d_name);
+        if (std::string_view(name) == "." || std::string_view(name) == "..")
             continue;
-        if (IsFolderEntry(dirfd(handle), *entry))
-            entries.folders.emplace_back(name);
+        const unsigned char type = TypeOf(dirfd(handle), *entry);
+        const bool isLink = type == DT_LNK;
+        if (type == DT_DIR || (isLink && LeadsToFolder(dirfd(handle), name)))
+            entries.folders.push_back({name, isLink});
         else
-            entries.files.push_back({std::string(name), entry->d_type == DT_REG
-                                                            ? FileKind::Regular
-                                                            : FileKind::Unknown});
+            entries.files.push_back({name, KindOf(type)});
     }
 }
 
@@ -152,19 +172,27 @@ std::string FullPath(const std::string& path, std::error_code& error) {
     error = CheckPath(path);
     if (error)
         return path;
-    std::filesystem::path full = std::filesystem::absolute(path, error);
-    if (error)
-        return path;
-    // A ".." behind a link leads elsewhere than the names in front of it tell.
-    const bool hasParentSteps = std::find(full.begin(), full.end(), "..") != full.end();
-    full =
-        hasParentSteps ? std::filesystem::weakly_canonical(full, error) : full.lexically_normal();
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    std::filesystem::path full;
+    for (const std::filesystem::path& step : absolute) {
+        if (error)
+            return path;
+        if (step == "..")
+            full = ParentFolder(full, error);
+        else if (step != ".")
+            full /= step;
+    }
     if (error)
         return path;
     std::string result = full.string();
     if (result.size() > 1 && result.ends_with('/'))
         result.pop_back();
     return result;
+}
+
+std::string RealPath(const std::string& path, std::error_code& error) {
+    error = CheckPath(path);
+    return error ? std::string() : std::filesystem::canonical(path, error).string();
 }
 
 std::string ProgramFolder() {

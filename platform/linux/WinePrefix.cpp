@@ -40,7 +40,9 @@ std::string MatchName(const std::string& folder, const std::string& name) {
     if (error)
         return {};
     auto entries = open.Entries(error);
-    auto& names = entries.folders;
+    std::vector<std::string> names;
+    for (SubfolderEntry& subfolder : entries.folders)
+        names.push_back(std::move(subfolder.name));
     for (FileEntry& file : entries.files)
         names.push_back(std::move(file.name));
     // More than one may match; which one does must not depend on the order of the folder.

@@ -1,5 +1,6 @@
 #include "platform/FileSystem.h"
 
+#include <array>
 #include <memory>
 
 #include "platform/PathCheck.h"
@@ -39,6 +40,43 @@ bool IsSeparator(char c) {
     return c == '\\' || c == '/';
 }
 
+/// Whether an entry of the folder at `folder`, with a separator at its end, leads to another place
+/// of the disk. Systems also mark files that are fetched when they are opened, and the places where
+/// other volumes are mounted: these lead nowhere else.
+bool IsLink(const std::wstring& folder, const WIN32_FIND_DATAW& entry) {
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+        return false;
+    if (entry.dwReserved0 != IO_REPARSE_TAG_MOUNT_POINT)
+        return entry.dwReserved0 == IO_REPARSE_TAG_SYMLINK;
+    std::array<wchar_t, 64> volume{};  // "\\?\Volume{GUID}\"
+    const std::wstring place = folder + static_cast<const wchar_t*>(entry.cFileName) + L'\\';
+    return GetVolumeNameForVolumeMountPointW(place.c_str(), volume.data(), volume.size()) == FALSE;
+}
+
+/// The path of what an open file or folder is, without links.
+std::string RealPathOf(HANDLE handle, std::error_code& error) {
+    std::wstring path(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD length = GetFinalPathNameByHandleW(
+            handle, path.data(), static_cast<DWORD>(path.size()), VOLUME_NAME_DOS);
+        if (length == 0) {
+            error = LastWindowsError();
+            return {};
+        }
+        const bool isWhole = length < path.size();
+        path.resize(length);  // one that is too short gets the length that it should have
+        if (isWhole)
+            return NarrowText(WithoutLongMark(path));
+    }
+}
+
+/// Opens a file or folder, which keeps nobody else from it. @return INVALID_HANDLE_VALUE after an
+/// error.
+HANDLE OpenShared(const std::wstring& path, DWORD access) {
+    return CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+}
+
 }  // namespace
 
 Folder Folder::Open(const std::string& path, std::error_code& error) {
@@ -47,9 +85,7 @@ Folder Folder::Open(const std::string& path, std::error_code& error) {
         return Folder(nullptr);
     auto folder = std::make_unique<OpenFolder>();
     folder->path = WidePath(path);
-    folder->handle = CreateFileW(folder->path.c_str(), FILE_LIST_DIRECTORY,
-                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                 OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    folder->handle = OpenShared(folder->path, FILE_LIST_DIRECTORY);
     if (folder->handle == INVALID_HANDLE_VALUE) {
         error = LastWindowsError();
         return Folder(nullptr);
@@ -70,24 +106,28 @@ Folder::~Folder() {
         CloseHandle(folder->handle);
 }
 
-FileIdentity Folder::Identity(std::error_code& error) const {
+FolderIdentity Folder::Identity(std::error_code& error) const {
+    const HANDLE handle = static_cast<OpenFolder*>(handle_)->handle;
     BY_HANDLE_FILE_INFORMATION status{};
-    const bool isKnown =
-        GetFileInformationByHandle(static_cast<OpenFolder*>(handle_)->handle, &status) != FALSE;
+    const bool isKnown = GetFileInformationByHandle(handle, &status) != FALSE;
     error = isKnown ? std::error_code() : LastWindowsError();
-    return {status.dwVolumeSerialNumber,
-            std::uint64_t{status.nFileIndexHigh} << 32 | status.nFileIndexLow};
+    FolderIdentity identity{
+        .device = status.dwVolumeSerialNumber,
+        .number = std::uint64_t{status.nFileIndexHigh} << 32 | status.nFileIndexLow,
+        .realPath = {}};
+    if (!error && identity.number == 0)
+        identity.realPath = RealPathOf(handle, error);
+    return identity;
 }
 
 FolderEntries Folder::Entries(std::error_code& error) const {
     error.clear();
     FolderEntries entries;
-    std::wstring pattern = static_cast<OpenFolder*>(handle_)->path;
-    if (!pattern.ends_with(L'\\') && !pattern.ends_with(L'/'))
-        pattern += L'\\';
-    pattern += L'*';
+    std::wstring folder = static_cast<OpenFolder*>(handle_)->path;
+    if (!folder.ends_with(L'\\') && !folder.ends_with(L'/'))
+        folder += L'\\';
     WIN32_FIND_DATAW entry{};
-    const HANDLE search = FindFirstFileW(pattern.c_str(), &entry);
+    const HANDLE search = FindFirstFileW((folder + L'*').c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE) {
         // The root of a drive has no "." entry, so an empty one has none at all.
         if (GetLastError() != ERROR_FILE_NOT_FOUND)
@@ -98,12 +138,12 @@ FolderEntries Folder::Entries(std::error_code& error) const {
         const std::wstring_view name = static_cast<const wchar_t*>(entry.cFileName);
         if (name == L"." || name == L"..")
             continue;
-        const bool isLink = (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+        const bool isLink = IsLink(folder, entry);
         if (IsDirectory(entry.dwFileAttributes))
-            entries.folders.push_back(NarrowText(name));
+            entries.folders.push_back({NarrowText(name), isLink});
         else
             entries.files.push_back(
-                {NarrowText(name), isLink ? FileKind::Unknown : FileKind::Regular});
+                {NarrowText(name), isLink ? FileKind::Link : FileKind::Regular});
     } while (FindNextFileW(search, &entry) != FALSE);
     if (GetLastError() != ERROR_NO_MORE_FILES)
         error = LastWindowsError();
@@ -156,9 +196,7 @@ void CheckWritable(const std::string& folder, std::error_code& error) {
     error = CheckPath(folder);
     if (error)
         return;
-    const HANDLE handle = CreateFileW(WidePath(folder).c_str(), FILE_ADD_FILE,
-                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    const HANDLE handle = OpenShared(WidePath(folder), FILE_ADD_FILE);
     if (handle == INVALID_HANDLE_VALUE)
         error = LastWindowsError();
     else
@@ -208,6 +246,20 @@ std::string FullPath(const std::string& path, std::error_code& error) {
     if (!isRoot && full.ends_with(L'\\'))
         full.pop_back();
     return NarrowText(full);
+}
+
+std::string RealPath(const std::string& path, std::error_code& error) {
+    error = CheckPath(path);
+    if (error)
+        return {};
+    const HANDLE handle = OpenShared(WidePath(path), 0);
+    if (handle == INVALID_HANDLE_VALUE) {
+        error = LastWindowsError();
+        return {};
+    }
+    std::string real = RealPathOf(handle, error);
+    CloseHandle(handle);
+    return real;
 }
 
 std::string ProgramFolder() {

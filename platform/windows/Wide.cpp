@@ -50,4 +50,12 @@ std::wstring WidePath(const std::string& path) {
     return wide.insert(0, kLongMark);
 }
 
+std::wstring WithoutLongMark(std::wstring path) {
+    if (path.starts_with(kLongNetworkMark))
+        return path.replace(0, kLongNetworkMark.size(), LR"(\\)");
+    if (path.starts_with(kLongMark))
+        path.erase(0, kLongMark.size());
+    return path;
+}
+
 }  // namespace marlo::platform

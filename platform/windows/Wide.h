@@ -10,4 +10,7 @@ namespace marlo::platform {
 /// such.
 std::wstring WidePath(const std::string& path);
 
+/// A path without the mark of a long one.
+std::wstring WithoutLongMark(std::wstring path);
+
 }  // namespace marlo::platform

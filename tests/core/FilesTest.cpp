@@ -187,10 +187,18 @@ TEST_F(FilesTest, AStagedFileLargerThanItsBufferIsWhole) {
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), expected);
 }
 
-TEST_F(FilesTest, AFolderInTheFilesPlaceIsAFailureWithoutAQuestion) {
+TEST_F(FilesTest, AFolderInTheFilesPlaceIsKnownAtTheStart) {
     folder.MakeFolder("resultfiles/results.csv");
     StagedFile file(application, window, kResults);
+    EXPECT_EQ(FailureOf([&] { file.Create(); }), ErrorNumber::PathFileAccess);
+    EXPECT_FALSE(folder.Exists("resultfiles/results.csv.new"));
+    EXPECT_TRUE(window.events.empty());
+}
+
+TEST_F(FilesTest, AFolderInTheFilesPlaceIsAFailureWithoutAQuestion) {
+    StagedFile file(application, window, kResults);
     EXPECT_TRUE(file.Create());
+    folder.MakeFolder("resultfiles/results.csv");
     EXPECT_EQ(FailureOf([&] { file.MoveIntoPlace(); }), ErrorNumber::PathFileAccess);
     EXPECT_TRUE(window.events.empty());
 }

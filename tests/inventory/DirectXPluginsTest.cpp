@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "inventory/DirectXPlugins.h"
+#include "inventory/GetInstalledPlugins.h"
 #include "tests/support/ApplicationTest.h"
 #include "tools/FilterWriter.h"
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/RunTimeError.h"
 #include "core/Settings.h"
 #include "inventory/InstalledPlugins.h"
 #include "tests/support/ApplicationTest.h"
@@ -193,6 +194,41 @@ TEST_F(RefreshPluginsTest, WhereverTheDiskIsFullTheListKeepsWhatWentOnIt) {
     }
 }
 
+TEST_F(RefreshPluginsTest, AMessageThatCannotBeShownLeavesNothingLocked) {
+    folder.MakeFolder(kFile);
+    window.onMessage = [](const Message&) { throw RunTimeError(ErrorNumber::OutOfMemory); };
+    EXPECT_EQ(Refresh().outcome, InventoryOutcome::Failed);
+    EXPECT_EQ(window.Count("EnableButtons"), 1U);
+    EXPECT_EQ(window.events.back(), "ClearStatusBar");
+    EXPECT_EQ(Log(), LogLine("RefreshPlugins", 75, "Path/File access error") +
+                         LogLine("RefreshPlugins", 7, "Out of memory"));
+}
+
+TEST_F(RefreshPluginsTest, TheFolderRecordsAreReadOneByOne) {
+    AddLibrary(50, "A.dll", "A");
+    AddLibrary(51, "B.dll", "B");
+    const std::string first = folder.Path("vst50");
+    const std::string other = folder.MakeFolder("other");
+    const std::string library = folder.Write("other/C.dll", "");
+    window.onEvents = [&] {
+        if (window.text2 == first)
+            WriteSetting(application, 51, other);
+    };
+    EXPECT_EQ(Refresh().outcome, InventoryOutcome::Completed);
+    EXPECT_EQ(List(), "\"VST\",\"A\",\"" + folder.Path("vst50/A.dll") + "\"\r\n" +
+                          "\"VST\",\"C\",\"" + library + "\"\r\n");
+}
+
+TEST_F(RefreshPluginsTest, AFolderInTheStagedListsPlaceDoesNotCostTheOldList) {
+    folder.Write(kFile, "old");
+    folder.MakeFolder(kFile + ".new");
+    EXPECT_EQ(Refresh().outcome, InventoryOutcome::Failed);
+    EXPECT_EQ(List(), "old");
+    EXPECT_EQ(window.MessageTexts(), Texts{"An unexpected error occurred."});
+    EXPECT_EQ(Log(), LogLine("RefreshPlugins", 75, "Path/File access error"));
+    EXPECT_TRUE(window.Phases().empty()) << "nothing was looked for";
+}
+
 TEST_F(RefreshPluginsTest, AFolderInTheListsPlaceIsAFailureAndTheTimeStays) {
     folder.MakeFolder(kFile);
     WriteSetting(application, 15, "before");
@@ -200,6 +236,7 @@ TEST_F(RefreshPluginsTest, AFolderInTheListsPlaceIsAFailureAndTheTimeStays) {
     EXPECT_EQ(window.MessageTexts(), Texts{"An unexpected error occurred."});
     EXPECT_EQ(getSetting(application, 15), "before");
     EXPECT_FALSE(folder.Exists(kFile + ".new"));
+    EXPECT_TRUE(window.Phases().empty()) << "it is known before anything is looked for";
 }
 
 TEST_F(RefreshPluginsTest, WithoutAResultFolderTheRunFails) {

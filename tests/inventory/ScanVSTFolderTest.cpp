@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "core/RunTimeError.h"
-#include "inventory/ScanVSTFolder.h"
+#include "inventory/GetInstalledPlugins.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/System.h"
 
@@ -194,6 +194,54 @@ TEST_F(ScanVSTFolderTest, ACancelOfBeforeIsNotTakenBack) {
     cancelled = true;
     Scan(Vst());
     EXPECT_TRUE(cancelled);
+}
+
+TEST_F(ScanVSTFolderTest, ALibraryIsWrittenBeforeTheNextFileIsAskedAbout) {
+    folder.Write("vst/Delay.dll", "");
+    folder.Write("vst/Echo.dll", "");
+    desktop.unreadable = {"Echo.dll"};
+    EXPECT_THROW(Scan(Vst()), RunTimeError);
+    EXPECT_EQ(folder.Read("list.csv"), Line("Delay", "Delay.dll"));
+    EXPECT_EQ(window.events, (Texts{"Text2: " + Vst(), "Events", "Events"}));
+}
+
+TEST_F(ScanVSTFolderTest, LocationsAreFullPathsWhateverTheFolderLooksLike) {
+    folder.Write("vst/sub/Delay.dll", "");
+    folder.MakeFolder("vst/other");
+    for (const std::string& path :
+         {Vst() + "/", Vst() + "//.", Vst("other/.."), Vst("sub/../other/../")}) {
+        Scan(path);
+        EXPECT_EQ(folder.Read("list.csv"), Line("Delay", "sub/Delay.dll")) << path;
+        EXPECT_EQ(window.events.front(), "Text2: " + path) << "as the setting has it";
+        EXPECT_EQ(window.text2, Vst("sub"));
+        window.events.clear();
+    }
+}
+
+TEST_F(ScanVSTFolderTest, ARelativeFolderIsTakenFromTheWorkingFolderOn) {
+    folder.Write("vst/Delay.dll", "");
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(test::PathOf(folder.Path()));
+    Scan("vst");
+    std::filesystem::current_path(before);
+    EXPECT_EQ(folder.Read("list.csv"), Line("Delay", "Delay.dll"));
+}
+
+TEST_F(ScanVSTFolderTest, ALinkInTheLocationStays) {
+    folder.Write("real/sub/Delay.dll", "");
+    folder.Write("real/beside/Echo.dll", "");
+    if (!test::CanTellLinks() || !test::MakeLink("../real", Vst("link")))
+        GTEST_SKIP() << test::kNoLinks;
+    Scan(Vst("link/beside/../sub"));
+    EXPECT_EQ(folder.Read("list.csv"), Line("Delay", "link/sub/Delay.dll"));
+}
+
+TEST_F(ScanVSTFolderTest, ALinkDoesNotTakeLibrariesFromTheirRealPath) {
+    folder.Write("vst/b/Delay.dll", "");
+    if (!test::CanTellLinks() || !test::MakeLink("b", Vst("aaa")))
+        GTEST_SKIP() << test::kNoLinks;
+    EXPECT_EQ(Lines(), Line("Delay", "b/Delay.dll"));
+    EXPECT_EQ(window.Count("Text2: " + Vst("aaa")), 0U);
 }
 
 TEST_F(ScanVSTFolderTest, AFolderLinkDoesNotMakeTheWalkEndlessOrAFolderListedTwice) {

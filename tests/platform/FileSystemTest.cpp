@@ -17,16 +17,13 @@ using Names = std::vector<std::string>;
 
 class FileSystemTest : public testing::Test {
   protected:
-    static Names Sorted(Names names) {
+    template <class Entry>
+    static Names NamesOf(const std::vector<Entry>& entries) {
+        Names names;
+        for (const Entry& entry : entries)
+            names.push_back(entry.name);
         std::sort(names.begin(), names.end());
         return names;
-    }
-
-    static Names NamesOf(const std::vector<FileEntry>& files) {
-        Names names;
-        for (const FileEntry& file : files)
-            names.push_back(file.name);
-        return Sorted(names);
     }
 
     test::TempFolder folder;
@@ -43,7 +40,7 @@ TEST_F(FileSystemTest, AFoldersEntriesAreFilesAndFoldersAndLinksCountAsWhatTheyL
     const auto entries = Folder::Open(folder.Path(), error).Entries(error);
     EXPECT_FALSE(error);
     EXPECT_EQ(NamesOf(entries.files), (Names{".hidden", "file", "to file"}));
-    EXPECT_EQ(Sorted(entries.folders), (Names{"sub", "to folder"}));
+    EXPECT_EQ(NamesOf(entries.folders), (Names{"sub", "to folder"}));
 }
 
 TEST_F(FileSystemTest, ALinkThatLeadsNowhereCountsAsAFile) {
@@ -61,7 +58,11 @@ TEST_F(FileSystemTest, AListingTellsRegularFilesFromLinks) {
     if (!test::CanTellLinks() || !test::MakeLink("file", folder.Path("link")))
         GTEST_SKIP() << test::kNoLinks;
     for (const FileEntry& file : Folder::Open(folder.Path(), error).Entries(error).files)
-        EXPECT_EQ(file.kind, file.name == "link" ? FileKind::Unknown : FileKind::Regular);
+        EXPECT_EQ(file.kind, file.name == "link" ? FileKind::Link : FileKind::Regular);
+    ASSERT_TRUE(test::MakeLink(".", folder.Path("folder link")));
+    folder.MakeFolder("sub");
+    for (const SubfolderEntry& sub : Folder::Open(folder.Path(), error).Entries(error).folders)
+        EXPECT_EQ(sub.isLink, sub.name == "folder link");
 }
 
 TEST_F(FileSystemTest, AFolderIsTheSameWhateverPathLeadsToIt) {
@@ -97,6 +98,21 @@ TEST_F(FileSystemTest, AFullPathKeepsItsLinksAndLosesWhatIsNoName) {
     EXPECT_EQ(FullPath("a.cpr", error),
               JoinPath(std::filesystem::current_path().string(), "a.cpr"));
     EXPECT_FALSE(error);
+}
+
+TEST_F(FileSystemTest, ARealPathIsTheSameWhateverPathLeadsThere) {
+    const std::string file = folder.Write("real/sub/file", "");
+    const std::string real = RealPath(file, error);
+    EXPECT_FALSE(error);
+    EXPECT_TRUE(IsFile(real, error));
+    EXPECT_EQ(RealPath(real, error), real);
+    EXPECT_EQ(RealPath(folder.Path("real/../real/./sub/file"), error), real);
+    EXPECT_EQ(RealPath(folder.Path("real/sub"), error), ParentPath(real));
+    EXPECT_EQ(RealPath(folder.Path("gone"), error), "");
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+    if (!test::CanTellLinks() || !test::MakeLink("real/sub", folder.Path("link")))
+        GTEST_SKIP() << test::kNoLinks;
+    EXPECT_EQ(RealPath(folder.Path("link/file"), error), real);
 }
 
 TEST_F(FileSystemTest, AFolderIsMadeInOneThatExistsAndNothingIsReplaced) {
@@ -159,6 +175,8 @@ TEST_F(FileSystemTest, APathWithANulIsRefusedAndNotCutThere) {
     EXPECT_FALSE(IsFolder(folder.Path() + behind, error));
     expectRefusal();
     LastModified(file + behind, error);
+    expectRefusal();
+    EXPECT_EQ(RealPath(file + behind, error), "");
     expectRefusal();
     RemoveFile(file + behind, error);
     expectRefusal();

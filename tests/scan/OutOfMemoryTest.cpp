@@ -10,6 +10,7 @@
 #include "scan/SearchLists.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/FailingAllocation.h"
+#include "tests/support/PluginUse.h"
 #include "tools/ProjectWriter.h"
 
 namespace marlo {
@@ -41,7 +42,7 @@ TEST_F(OutOfMemoryTest, AScanThatRunsOutOfMemoryKeepsWhatItHadAndLogsNumber7) {
 
 TEST_F(OutOfMemoryTest, AKeyThatCannotBeSplitIsLoggedAndMakesTheResultFilesFail) {
     const std::string key = "\"A.cpr\",\"Delay\",\"VST    \"";
-    lists.PluginOccurrences.push_back(lists.ProjectPluginKeys.Merge(key, kOn));
+    test::AddUse(lists, key, kOn);
     bool ok = true;
     {
         const test::FailingAllocation failing(
@@ -61,16 +62,19 @@ TEST_F(OutOfMemoryTest, AKeyIsAddedWhollyOrNotAtAll) {
     const std::string tooLongForAnyBlock(300000, 'k');
     bool isAdded = false;
     for (std::size_t number = 1; !isAdded; ++number) {
-        MergedStates states;
-        states.Merge("first", kOn);
+        KeyList keys;
+        StateList states;
+        MergeState(keys, states, "first", kOn);
         try {
             const test::FailingNthAllocation failing(number);
-            states.Merge(tooLongForAnyBlock, kOn);
+            MergeState(keys, states, tooLongForAnyBlock, kOn);
             isAdded = true;
         } catch (const std::bad_alloc&) {
+            EXPECT_EQ(keys.UpperBound(), 1U) << number;
             EXPECT_EQ(states.UpperBound(), 1U) << number;
-            EXPECT_EQ(states.Merge(tooLongForAnyBlock, kOff).state, kOff) << number;
+            EXPECT_EQ(MergeState(keys, states, tooLongForAnyBlock, kOff).state, kOff) << number;
         }
+        EXPECT_EQ(keys.UpperBound(), 2U) << number;
         EXPECT_EQ(states.UpperBound(), 2U) << number;
     }
 }

@@ -113,6 +113,24 @@ TEST_F(ProjectDiscoveryTest, NamesWithOddBytesAreKept) {
     EXPECT_EQ(Discover(), (Paths{test::OddName() + ".cpr", "\xE6\x9B\xB2/\xF0\x9F\x8E\xB9.cpr"}));
 }
 
+TEST_F(ProjectDiscoveryTest, AProjectIsListedAndShownBeforeTheNextFileIsAskedAbout) {
+    folder.Write("songs/a.cpr", "");
+    folder.Write("songs/b.cpr", "");
+    desktop.unreadable = {"b.cpr"};
+    EXPECT_THROW(Discover(), RunTimeError);
+    EXPECT_EQ(lists.ProjectFiles.UpperBound(), 1U);
+    EXPECT_EQ(projectCount, 2);
+    EXPECT_EQ(window.text2, folder.Path("songs/a.cpr"));
+    EXPECT_EQ(window.Count("Events"), 1U);
+}
+
+TEST_F(ProjectDiscoveryTest, ALinkDoesNotTakeProjectsFromTheirRealPath) {
+    folder.Write("songs/b/one.cpr", "");
+    if (!test::CanTellLinks() || !test::MakeLink("b", folder.Path("songs/aaa")))
+        GTEST_SKIP() << test::kNoLinks;
+    EXPECT_EQ(Discover(), Paths{"b/one.cpr"});
+}
+
 TEST_F(ProjectDiscoveryTest, ALinkLoopEndsAndNoFolderIsVisitedTwice) {
     folder.Write("songs/a/one.cpr", "");
     if (!test::MakeLink("..", folder.Path("songs/a/loop")))

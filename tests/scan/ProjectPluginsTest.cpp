@@ -42,8 +42,10 @@ class ProjectPluginsTest : public test::ApplicationTest {
     /// The keys, each with its merged state behind it.
     Texts Keys() const {
         Texts keys;
-        for (const auto& [key, state] : lists.ProjectPluginKeys)
-            keys.push_back(std::string(key).append(" ").append(state));
+        for (std::size_t i = 1; i <= lists.ProjectPluginKeys.UpperBound(); ++i)
+            keys.push_back(std::string(lists.ProjectPluginKeys[i])
+                               .append(" ")
+                               .append(lists.ProjectPluginStates[i]));
         return keys;
     }
 
@@ -255,8 +257,8 @@ TEST_F(ProjectPluginsTest, MoreThan500EntriesAreKept) {
         bytes += PluginBytes({.name = "Plug-in " + std::to_string(i), .chunkSize = 8});
     Scan(bytes);
     EXPECT_EQ(lists.PluginOccurrences.size(), 1200U);
-    EXPECT_EQ(lists.ProjectPluginKeys[1].key, Key("Plug-in 0"));
-    EXPECT_EQ(lists.ProjectPluginKeys[1200].key, Key("Plug-in 1199"));
+    EXPECT_EQ(lists.ProjectPluginKeys[1], Key("Plug-in 0"));
+    EXPECT_EQ(lists.ProjectPluginKeys[1200], Key("Plug-in 1199"));
 }
 
 TEST_F(ProjectPluginsTest, RecordsBeyond256MiBAreOutOfMemoryAndTheEarlierOnesKept) {
@@ -279,7 +281,7 @@ TEST_F(ProjectPluginsTest, RecordsBeyond256MiBAreOutOfMemoryAndTheEarlierOnesKep
     EXPECT_EQ(lists.PluginOccurrences.size(), 9U);
     EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 1U);
     EXPECT_EQ(logged.procedure, "GetPlugins4Project " + folder.Path("song.cpr") + " " +
-                                    std::string(lists.ProjectPluginKeys[1].key));
+                                    std::string(lists.ProjectPluginKeys[1]));
 }
 
 TEST_F(ProjectPluginsTest, WhatAllProjectsAddToTheListsHasALimitToo) {
@@ -287,7 +289,7 @@ TEST_F(ProjectPluginsTest, WhatAllProjectsAddToTheListsHasALimitToo) {
     EXPECT_TRUE(Scan(bytes));
     const std::size_t used = kMaxTotalRecordText - lists.recordTextLeft;
     const std::string occurrence = Occurrences().at(0);
-    EXPECT_EQ(used, occurrence.size() + lists.ProjectPluginKeys[1].key.size());
+    EXPECT_EQ(used, occurrence.size() + lists.ProjectPluginKeys[1].size());
 
     lists.Clear();
     EXPECT_EQ(lists.recordTextLeft, kMaxTotalRecordText);
@@ -336,10 +338,11 @@ TEST_F(ProjectPluginsTest, ARealProjectHasItsSevenPlugins) {
     EXPECT_TRUE(GetPlugins4Project(application, lists, path));
     Texts names;
     const std::size_t start = path.size() + std::string(R"("",")").size();
-    for (const auto& [key, state] : lists.ProjectPluginKeys) {
+    for (std::size_t i = 1; i <= lists.ProjectPluginKeys.UpperBound(); ++i) {
+        const std::string_view key = lists.ProjectPluginKeys[i];
         names.emplace_back(key.substr(start, key.find('"', start) - start));
         EXPECT_TRUE(key.ends_with(",\"VST    \"")) << key;
-        EXPECT_EQ(state, "On") << key;
+        EXPECT_EQ(lists.ProjectPluginStates[i], "On") << key;
     }
     EXPECT_EQ(names, (Texts{"ArtsAcousticReverb", "Limitless", "Sylenth1", "Q", "Embracer",
                             "EQuilibrium", "Hive"}));

@@ -7,6 +7,7 @@
 #include "scan/ResultFiles.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/HeldFiles.h"
+#include "tests/support/PluginUse.h"
 
 namespace marlo {
 namespace {
@@ -16,9 +17,7 @@ class ResultFilesTest : public test::ApplicationTest {
     /// Adds one use of a plug-in to the lists, as a scan does.
     void AddUse(const std::string& project, const std::string& name, const std::string& state,
                 const std::string& type = "VST    ") {
-        const PluginState merged =
-            lists.ProjectPluginKeys.Merge(QuotedFields({project, name, type}), state);
-        lists.PluginOccurrences.push_back({merged.key, state == kOn ? kOn : kOff});
+        test::AddUse(lists, QuotedFields({project, name, type}), state);
     }
 
     bool Create() { return CreateResultFiles(application, window, lists); }
@@ -130,7 +129,7 @@ TEST_F(ResultFilesTest, BytesAreWrittenAsTheyAre) {
 }
 
 TEST_F(ResultFilesTest, AKeyWithTooFewFieldsIsLoggedBySplittingAndStillWritten) {
-    lists.ProjectPluginKeys.Merge("\"A.cpr\",\"lost\"", "On");
+    test::AddUse(lists, "\"A.cpr\",\"lost\"", kOn);
     EXPECT_TRUE(Create());
     EXPECT_EQ(Tln(), "\"lost\",\"\",\"On\"\r\n");
     EXPECT_EQ(Log(), LogLine(R"(SplitRecord: "A.cpr","lost" 3)", 5, "Invalid procedure call"));

@@ -115,7 +115,7 @@ TEST_F(SearchFaultTest, WhereverTheDiskIsFullEachResultFileIsWholeAndThoseBehind
         GTEST_SKIP() << test::kNoFileSizeLimit;
     // Short keys that give each file more bytes than the one before it.
     lists.PluginOccurrences.push_back({"b", ""});
-    lists.ProjectPluginKeys.Merge("A", "On");
+    MergeState(lists.ProjectPluginKeys, lists.ProjectPluginStates, "A", kOn);
     ASSERT_TRUE(CreateResultFiles(application, window, lists));
     const Contents complete = ResultFiles();
     ASSERT_LT(complete[0].size(), complete[1].size());

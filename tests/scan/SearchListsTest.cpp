@@ -2,6 +2,7 @@
 
 #include "core/RunTimeError.h"
 #include "scan/SearchLists.h"
+#include "tests/support/PluginUse.h"
 
 namespace marlo {
 namespace {
@@ -29,51 +30,66 @@ TEST(TextListTest, AnIndexOutsideTheListIsOutOfRange) {
     }
 }
 
-TEST(MergedStatesTest, AnIndexOutsideTheListIsOutOfRange) {
-    MergedStates states;
-    states.Merge("a", kOn);
-    EXPECT_THROW(states[0], RunTimeError);
-    EXPECT_THROW(states[2], RunTimeError);
+class MergeStateTest : public testing::Test {
+  protected:
+    PluginState Merge(std::string_view key, std::string_view state) {
+        return MergeState(keys, states, key, state);
+    }
+
+    KeyList keys;
+    StateList states;
+};
+
+TEST_F(MergeStateTest, AnIndexOutsideTheListsIsOutOfRange) {
+    Merge("a", kOn);
+    for (const std::size_t index : {0U, 2U}) {
+        EXPECT_THROW(keys[index], RunTimeError);
+        EXPECT_THROW(states[index], RunTimeError);
+    }
 }
 
-TEST(MergedStatesTest, OnStaysOnAndOffTurnsOn) {
-    MergedStates states;
-    states.Merge("a", kOff);
-    states.Merge("b", kOn);
-    EXPECT_EQ(states.Merge("a", kOn).state, kOn);
-    EXPECT_EQ(states.Merge("b", kOff).state, kOn);
+TEST_F(MergeStateTest, OnStaysOnAndOffTurnsOn) {
+    Merge("a", kOff);
+    Merge("b", kOn);
+    EXPECT_EQ(Merge("a", kOn).state, kOn);
+    EXPECT_EQ(Merge("b", kOff).state, kOn);
+    EXPECT_EQ(keys.UpperBound(), 2U);
     EXPECT_EQ(states.UpperBound(), 2U);
-    EXPECT_EQ(states[1].key, "a");
-    EXPECT_EQ(states[2].key, "b");
+    EXPECT_EQ(keys[1], "a");
+    EXPECT_EQ(states[1], kOn);
+    EXPECT_EQ(keys[2], "b");
+    EXPECT_EQ(states[2], kOn);
 }
 
-TEST(MergedStatesTest, AKeyIsFoundWhateverWasAddedSince) {
-    MergedStates states;
+TEST_F(MergeStateTest, AKeyIsFoundWhateverWasAddedSince) {
     for (int i = 0; i < 10000; ++i)
-        states.Merge(std::to_string(i), kOff);
+        Merge(std::to_string(i), kOff);
     for (int i = 0; i < 10000; ++i)
-        EXPECT_EQ(states.Merge(std::to_string(i), kOff).key, std::to_string(i));
-    EXPECT_EQ(states.UpperBound(), 10000U);
+        EXPECT_EQ(Merge(std::to_string(i), kOff).key, std::to_string(i));
+    EXPECT_EQ(keys.UpperBound(), 10000U);
 }
 
-TEST(MergedStatesTest, WhatIsCalledBeforeAddingCanPreventIt) {
-    MergedStates states;
+TEST_F(MergeStateTest, WhatIsCalledBeforeAddingCanPreventIt) {
     const auto refuse = [] { throw RunTimeError(ErrorNumber::OutOfMemory); };
-    EXPECT_THROW(states.Merge("a", kOn, refuse), RunTimeError);
+    EXPECT_THROW(MergeState(keys, states, "a", kOn, refuse), RunTimeError);
+    EXPECT_EQ(keys.UpperBound(), 0U);
     EXPECT_EQ(states.UpperBound(), 0U);
-    states.Merge("a", kOff);
-    EXPECT_EQ(states.Merge("a", kOn, refuse).state, kOn);
+    Merge("a", kOff);
+    EXPECT_EQ(MergeState(keys, states, "a", kOn, refuse).state, kOn);
 }
 
 TEST(SearchListsTest, ClearForgetsEverything) {
     SearchLists lists;
     lists.ProjectFiles.Append("a.cpr");
-    lists.PluginOccurrences.push_back(lists.ProjectPluginKeys.Merge("a", kOn));
+    test::AddUse(lists, "a", kOn);
     lists.Clear();
     EXPECT_EQ(lists.ProjectFiles.UpperBound(), 0U);
     EXPECT_TRUE(lists.PluginOccurrences.empty());
-    EXPECT_EQ(lists.ProjectPluginKeys.Merge("a", kOff).state, kOff);
+    EXPECT_EQ(lists.ProjectPluginStates.UpperBound(), 0U);
+    test::AddUse(lists, "a", kOff);
+    EXPECT_EQ(lists.PluginOccurrences.at(0).state, kOff);
     EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 1U);
+    EXPECT_EQ(lists.ProjectPluginStates[1], kOff);
 }
 
 }  // namespace

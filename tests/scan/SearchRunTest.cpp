@@ -24,6 +24,7 @@ class SearchRunTest : public test::ApplicationTest {
         EXPECT_EQ(lists.ProjectFiles.UpperBound(), 0U);
         EXPECT_EQ(lists.PluginOccurrences.size(), 0U);
         EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 0U);
+        EXPECT_EQ(lists.ProjectPluginStates.UpperBound(), 0U);
         return summary;
     }
 

@@ -22,8 +22,8 @@ std::string ScanDifference(Application& application, const std::string& path,
     if (lists.ProjectPluginKeys.UpperBound() != expected.keys.size())
         return "the number of keys";
     for (std::size_t i = 0; i < expected.keys.size(); ++i) {
-        const auto& entry = lists.ProjectPluginKeys[i + 1];
-        if (entry.key != expected.keys[i] || entry.state != expected.states[i])
+        if (lists.ProjectPluginKeys[i + 1] != expected.keys[i] ||
+            lists.ProjectPluginStates[i + 1] != expected.states[i])
             return "key " + std::to_string(i + 1);
     }
     if (!completed && procedure != "GetPlugins4Project " + path + " " + expected.lastRecord)

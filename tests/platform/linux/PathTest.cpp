@@ -20,6 +20,17 @@ TEST(PathTest, AFullPathGoesUpFromWhereALinkLeads) {
     std::error_code error;
     EXPECT_EQ(FullPath(folder.Path("link/../a"), error), folder.Path("real/a"));
     EXPECT_EQ(FullPath("/", error), "/");
+    EXPECT_EQ(FullPath("/..", error), "/");
+    EXPECT_FALSE(error);
+}
+
+TEST(PathTest, AFullPathKeepsTheLinksThatItDoesNotGoUpFrom) {
+    const test::TempFolder folder;
+    folder.MakeFolder("real/sub");
+    std::filesystem::create_directory_symlink("real", folder.Path("link"));
+    std::error_code error;
+    EXPECT_EQ(FullPath(folder.Path("link/sub/../a"), error), folder.Path("link/a"));
+    EXPECT_EQ(FullPath(folder.Path("link/gone/../a"), error), folder.Path("link/a"));
     EXPECT_FALSE(error);
 }
 

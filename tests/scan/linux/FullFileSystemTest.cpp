@@ -12,6 +12,7 @@
 #include "core/Records.h"
 #include "scan/ResultFiles.h"
 #include "tests/support/ApplicationTest.h"
+#include "tests/support/PluginUse.h"
 
 namespace marlo {
 namespace {
@@ -49,7 +50,7 @@ class FullFileSystemTest : public test::ApplicationTest {
         for (std::size_t size = 0; size < 3 * PageSize(); size += 100) {
             const std::string key =
                 QuotedFields({"a.cpr", std::to_string(size) + std::string(90, 'n'), "VST"});
-            lists.PluginOccurrences.push_back(lists.ProjectPluginKeys.Merge(key, kOn));
+            test::AddUse(lists, key, kOn);
         }
     }
 

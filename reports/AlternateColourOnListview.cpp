@@ -1,4 +1,4 @@
-#include "reports/Ledger.h"
+#include "reports/AlternateColourOnListview.h"
 
 namespace marlo {
 
