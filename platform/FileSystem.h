@@ -1,12 +1,12 @@
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <ctime>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <tuple>
 #include <vector>
 
 namespace marlo::platform {
@@ -20,7 +20,11 @@ struct FolderIdentity {
     std::uint64_t number = 0;
     std::string realPath;  ///< only where the file system has no numbers; else empty
 
-    auto operator<=>(const FolderIdentity&) const = default;
+    bool operator==(const FolderIdentity&) const = default;
+    bool operator<(const FolderIdentity& other) const {
+        return std::tie(device, number, realPath) <
+               std::tie(other.device, other.number, other.realPath);
+    }
 };
 
 /// What a folder's listing tells of a file, which saves looking at the file itself. A link is not
