@@ -10,11 +10,14 @@ namespace marlo {
 
 namespace {
 
-std::string LogLine(const Application& application, const ErrorEntry& entry) {
+std::string LogLine(const Application& application, std::string_view procedure, std::int32_t number,
+                    std::string_view description) {
     const std::tm now = application.clock.Now();
-    return "Date: " + application.clock.TimeText(now) + " " + application.clock.ShortDateText(now) +
-           " Procedure: " + entry.procedure + " Error No.: " + std::to_string(entry.number) +
-           " Description: " + entry.description + "\r\n";
+    std::string line = "Date: " + application.clock.TimeText(now) + " " +
+                       application.clock.ShortDateText(now) + " Procedure: ";
+    line.append(procedure).append(" Error No.: ").append(std::to_string(number));
+    line.append(" Description: ").append(description).append("\r\n");
+    return line;
 }
 
 void AppendToLog(const Application& application, const std::string& line) {
@@ -29,19 +32,18 @@ void AppendToLog(const Application& application, const std::string& line) {
 
 void WriteErrorLog(const Application& application, std::string_view procedure, std::int32_t number,
                    std::string_view description) noexcept {
-    try {
-        const ErrorEntry entry{std::string(procedure), number, std::string(description)};
+    IgnoreFailures([&] {
         if (application.onErrorLogged)
-            application.onErrorLogged(entry);
-        AppendToLog(application, LogLine(application, entry));
-    } catch (...) {  // NOLINT(bugprone-empty-catch): there is nowhere left to report to.
-    }
+            application.onErrorLogged({std::string(procedure), number, std::string(description)});
+    });
+    IgnoreFailures(
+        [&] { AppendToLog(application, LogLine(application, procedure, number, description)); });
 }
 
 void LogFailure(const Application& application, std::string_view procedure) noexcept {
-    const RunTimeError failure = CurrentFailure();
-    WriteErrorLog(application, procedure, static_cast<std::int32_t>(failure.Number()),
-                  failure.Description());
+    const Failure failure = CurrentFailure();
+    WriteErrorLog(application, procedure, static_cast<std::int32_t>(failure.number),
+                  failure.description);
 }
 
 }  // namespace marlo

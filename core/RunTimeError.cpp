@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <new>
 #include <stdexcept>
-#include <utility>
 
 namespace marlo {
 
@@ -55,7 +54,7 @@ ErrorNumber NumberFor(const std::error_code& error) {
 
 }  // namespace
 
-std::string DescriptionOf(ErrorNumber number) {
+const char* DescriptionOf(ErrorNumber number) noexcept {
     switch (number) {
         case ErrorNumber::None:
             return "";
@@ -91,11 +90,6 @@ std::string DescriptionOf(ErrorNumber number) {
     return "";
 }
 
-RunTimeError::RunTimeError(ErrorNumber number) : RunTimeError(number, DescriptionOf(number)) {}
-
-RunTimeError::RunTimeError(ErrorNumber number, std::string description)
-    : number_(number), description_(std::move(description)) {}
-
 void ThrowOn(const std::error_code& error) {
     if (error)
         throw RunTimeError(NumberFor(error));
@@ -107,19 +101,20 @@ void ThrowOnPath(const std::error_code& error) {
     ThrowOn(error);
 }
 
-RunTimeError CurrentFailure() {
+Failure CurrentFailure() noexcept {
+    const auto failure = [](ErrorNumber number) { return Failure{number, DescriptionOf(number)}; };
     try {
         throw;
-    } catch (const RunTimeError& failure) {
-        return failure;
+    } catch (const RunTimeError& error) {
+        return failure(error.Number());
     } catch (const std::bad_alloc&) {
-        return RunTimeError(ErrorNumber::OutOfMemory);
+        return failure(ErrorNumber::OutOfMemory);
     } catch (const std::length_error&) {
-        return RunTimeError(ErrorNumber::OutOfMemory);
-    } catch (const std::exception& failure) {
-        return {ErrorNumber::InvalidProcedureCall, failure.what()};
+        return failure(ErrorNumber::OutOfMemory);
+    } catch (const std::exception& error) {
+        return {ErrorNumber::InvalidProcedureCall, error.what()};
     } catch (...) {
-        return RunTimeError(ErrorNumber::InvalidProcedureCall);
+        return failure(ErrorNumber::InvalidProcedureCall);
     }
 }
 

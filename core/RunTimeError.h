@@ -1,7 +1,6 @@
 #pragma once
 
 #include <exception>
-#include <string>
 #include <system_error>
 
 namespace marlo {
@@ -26,23 +25,20 @@ enum class ErrorNumber {
 };
 
 /// The short English text that belongs to a number, for example "File not found".
-std::string DescriptionOf(ErrorNumber number);
+const char* DescriptionOf(ErrorNumber number) noexcept;
 
 /// A failure inside a routine. Routines do not let it out: each one's boundary logs it and ends
-/// the way that the routine promises (see `LogFailure` in ErrorLog.h).
+/// the way that the routine promises (see `LogFailure` in ErrorLog.h). It takes no memory of its
+/// own, so that it can be thrown and told when there is none left.
 class RunTimeError : public std::exception {
   public:
-    explicit RunTimeError(ErrorNumber number);
-    /// A failure with a text of its own in place of the number's usual one.
-    RunTimeError(ErrorNumber number, std::string description);
+    explicit RunTimeError(ErrorNumber number) noexcept : number_(number) {}
 
-    ErrorNumber Number() const { return number_; }
-    const std::string& Description() const { return description_; }
-    const char* what() const noexcept override { return description_.c_str(); }
+    ErrorNumber Number() const noexcept { return number_; }
+    const char* what() const noexcept override { return DescriptionOf(number_); }
 
   private:
     ErrorNumber number_;
-    std::string description_;
 };
 
 /// Throws the failure that `error` stands for, if it stands for one.
@@ -53,9 +49,15 @@ void ThrowOn(const std::error_code& error);
 /// file in: "Path not found" takes the place of "File not found".
 void ThrowOnPath(const std::error_code& error);
 
+/// What the error log tells of a failure.
+struct Failure {
+    ErrorNumber number = ErrorNumber::None;
+    const char* description = "";  ///< lives as long as the exception that it comes from
+};
+
 /// The exception being handled as a failure with a number. Memory that ran out is "Out of memory";
 /// any other exception is an "Invalid procedure call", with its own text if it has one.
 /// To be called inside a catch block only.
-RunTimeError CurrentFailure();
+Failure CurrentFailure() noexcept;
 
 }  // namespace marlo

@@ -45,14 +45,6 @@ std::string PageOf(const std::string& site, std::string_view path) {
     return page;
 }
 
-template <class Body>
-void IgnoreFailures(Body body) {
-    try {
-        body();
-    } catch (...) {  // NOLINT(bugprone-empty-catch): what a small event cannot do, it leaves.
-    }
-}
-
 }  // namespace
 
 Form1::Form1(const Application& application, FormView& view, std::string helpSite)

@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
     try {
         return marlo::cli::RunCommandLine(argc, argv);
     } catch (...) {
-        std::cerr << "marlo-cli: " << marlo::CurrentFailure().Description() << '\n';
+        std::cerr << "marlo-cli: " << marlo::CurrentFailure().description << '\n';
         return marlo::cli::kFailed;
     }
 }

@@ -69,6 +69,16 @@ TEST_F(ErrorLogTest, TheListenerIsToldEvenWhenNothingCanBeWritten) {
     EXPECT_EQ(told.description, "d");
 }
 
+TEST_F(ErrorLogTest, AListenerThatFailsCostsNoLine) {
+    application.onErrorLogged = [](const ErrorEntry& /*entry*/) {
+        throw std::runtime_error("odd");
+    };
+    WriteErrorLog(application, "first", 1, "a");
+    EXPECT_FALSE(
+        RunGuarded(application, "second", [] { throw RunTimeError(ErrorNumber::FileNotFound); }));
+    EXPECT_EQ(Log(), LogLine("first", 1, "a") + LogLine("second", 53, "File not found"));
+}
+
 TEST_F(ErrorLogTest, WhereverTheDiskIsFullTheEarlierEntriesStayAndNothingElseHappens) {
     if (!test::FileSizeLimit::IsPossible())
         GTEST_SKIP() << test::kNoFileSizeLimit;

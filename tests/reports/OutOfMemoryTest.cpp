@@ -1,7 +1,6 @@
 // The reports with each of their allocations failing in turn.
 
 #include <cstddef>
-#include <functional>
 #include <new>
 #include <string>
 #include <string_view>
@@ -42,17 +41,6 @@ class ReportOutOfMemoryTest : public test::ReportTest {
         }
     }
 
-    /// Runs `action` again and again, with another allocation failing each time, until none fails
-    /// any more. @return how often one did.
-    static std::size_t FailEach(const std::function<void()>& action) {
-        for (std::size_t number = 1;; ++number) {
-            const test::FailingNthAllocation failing(number);
-            action();
-            if (!test::FailingNthAllocation::HasFailed())
-                return number - 1;
-        }
-    }
-
     test::Texts names;
     test::Texts paths;
 };
@@ -62,7 +50,7 @@ TEST_F(ReportOutOfMemoryTest, AListStaysWholeAndTheNextReportIsComplete) {
          {report_kind::kUsed, report_kind::kUnused, report_kind::kAll, report_kind::kUninstalled}) {
         ShowInstalledPlugins(pane, kind);
         const auto expected = Rows();
-        const std::size_t failures = FailEach([&] {
+        const std::size_t failures = test::FailEach(test::Failing::One, [&] {
             ResultPane fresh{application, window};
             ShowInstalledPlugins(fresh, kind);
             if (!test::FailingNthAllocation::HasFailed())
@@ -82,7 +70,7 @@ TEST_F(ReportOutOfMemoryTest, AnIndexForgetsNoRecord) {
         return true;
     };
     std::size_t wrongAnswers = 0;
-    const std::size_t failures = FailEach([&] {
+    const std::size_t failures = test::FailEach(test::Failing::One, [&] {
         try {
             RecordIndex index(application, "\\resultfiles\\installedplugins.csv", makeKey);
             for (std::size_t i = names.size(); i-- > 0;)

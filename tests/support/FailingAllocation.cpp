@@ -14,6 +14,10 @@ bool IsLast(std::size_t /*size*/) {
     return allocationsLeft > 0 && --allocationsLeft == 0;
 }
 
+bool IsLastOrBehind(std::size_t /*size*/) {
+    return allocationsLeft == 0 || --allocationsLeft == 0;
+}
+
 }  // namespace
 
 void* operator new(std::size_t size) {
@@ -42,7 +46,8 @@ FailingAllocation::~FailingAllocation() {
     allocationFails = nullptr;
 }
 
-FailingNthAllocation::FailingNthAllocation(std::size_t number) : failing_(IsLast) {
+FailingNthAllocation::FailingNthAllocation(std::size_t number, Failing failing)
+    : failing_(failing == Failing::One ? IsLast : IsLastOrBehind) {
     allocationsLeft = number;
 }
 
@@ -52,6 +57,19 @@ bool FailingNthAllocation::HasFailed() {
 
 void FailingNthAllocation::CallOff() {
     allocationsLeft = std::numeric_limits<std::size_t>::max();
+}
+
+std::size_t FailEach(Failing failing, const std::function<void()>& action,
+                     const std::function<void()>& check) {
+    for (std::size_t number = 1;; ++number) {
+        {
+            const FailingNthAllocation each(number, failing);
+            action();
+        }
+        if (!FailingNthAllocation::HasFailed())
+            return number - 1;
+        check();
+    }
 }
 
 }  // namespace marlo::test

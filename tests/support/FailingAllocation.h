@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 namespace marlo::test {
 
@@ -16,10 +17,13 @@ class FailingAllocation {
     ~FailingAllocation();
 };
 
-/// While one of these lives, one allocation fails: the `number`th from its beginning, 1-based.
+/// Whether one allocation fails, or all behind it, too.
+enum class Failing { One, AllFromThereOn };
+
+/// While one of these lives, an allocation fails: the `number`th from its beginning, 1-based.
 class FailingNthAllocation {
   public:
-    explicit FailingNthAllocation(std::size_t number);
+    explicit FailingNthAllocation(std::size_t number, Failing failing = Failing::One);
 
     /// Whether that of the last one of these has failed.
     static bool HasFailed();
@@ -29,5 +33,13 @@ class FailingNthAllocation {
   private:
     FailingAllocation failing_;
 };
+
+/// Runs `action` again and again, with another allocation failing each time, until none fails any
+/// more.
+/// @param check called after each time in which one did, when there is memory again.
+/// @return how often one did.
+std::size_t FailEach(
+    Failing failing, const std::function<void()>& action,
+    const std::function<void()>& check = [] {});
 
 }  // namespace marlo::test
