@@ -102,7 +102,7 @@ struct SearchLists {
     std::size_t recordTextLeft = kMaxTotalRecordText;
 
     /// Empties the lists and gives their memory back.
-    void Clear() { *this = {}; }
+    void Clear() noexcept { *this = {}; }
 };
 
 }  // namespace marlo

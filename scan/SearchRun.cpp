@@ -102,6 +102,8 @@ void WriteResults(const Application& application, MainWindow& window, SearchList
 
 void Search(const Application& application, MainWindow& window, SearchLists& lists,
             SearchSummary& summary) {
+    window.SetCancelTag("");
+    lists.Clear();
     const auto request = AskWhatToSearch(application, window);
     if (!request)
         return;
@@ -126,21 +128,24 @@ int SearchPercentage(int index, int count) {
 SearchSummary GetPlugins4AllProjects(const Application& application, MainWindow& window,
                                      SearchLists& lists) {
     SearchSummary summary;
-    window.SetCancelTag("");
-    lists.Clear();
-    if (!RunGuarded(application, "GetPlugins4AllProjects",
-                    [&] { Search(application, window, lists, summary); })) {
+    const auto run = [&](auto step) {
+        return RunGuarded(application, "GetPlugins4AllProjects", step);
+    };
+    if (!run([&] { Search(application, window, lists, summary); })) {
         summary.outcome = SearchOutcome::Failed;
-        ShowUnexpectedError(window);
+        run([&] { ShowUnexpectedError(window); });
     }
+    // Every step from here on is taken, whatever fails before it.
     lists.Clear();
-    window.ClearStatusBar();
-    window.Repaint();
-    window.EnableButtons();
+    run([&] { window.ClearStatusBar(); });
+    run([&] { window.Repaint(); });
+    run([&] { window.EnableButtons(); });
     if (summary.failedProjects > 0)
-        // The folder's name is what users of this message know, though the log lies elsewhere.
-        window.ShowMessage({.text = "Errors occurred. See " + application.folder +
-                                    "\\results\\errorlog.txt for details"});
+        run([&] {
+            // The folder's name is what users of this message know, though the log lies elsewhere.
+            window.ShowMessage({.text = "Errors occurred. See " + application.folder +
+                                        "\\results\\errorlog.txt for details"});
+        });
     return summary;
 }
 

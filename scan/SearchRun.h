@@ -35,7 +35,8 @@ struct SearchSummary {
 /// the last run), and writes it when the result files were written. Cancel is seen between two
 /// projects; it leaves the old result files as they are. A project that cannot be scanned does not
 /// stop the run. An unexpected failure is logged under "GetPlugins4AllProjects". However the run
-/// ends, `lists` are empty, the status boxes are cleared and the buttons enabled again.
+/// ends, `lists` are empty, the status boxes are cleared and the buttons enabled again; each of
+/// these is done also when one before it failed, which is logged in the same way.
 SearchSummary GetPlugins4AllProjects(const Application& application, MainWindow& window,
                                      SearchLists& lists);
 

@@ -8,9 +8,11 @@
 #include "scan/ProjectPlugins.h"
 #include "scan/ResultFiles.h"
 #include "scan/SearchLists.h"
+#include "scan/SearchRun.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/FailingAllocation.h"
 #include "tests/support/PluginUse.h"
+#include "tests/support/Projects.h"
 #include "tools/ProjectWriter.h"
 
 namespace marlo {
@@ -56,6 +58,30 @@ TEST_F(OutOfMemoryTest, AKeyThatCannotBeSplitIsLoggedAndMakesTheResultFilesFail)
                                  0, "n/a"));
     EXPECT_EQ(folder.Read("resultfiles/fln.csv"), key + ",\"On\"\r\n");
     EXPECT_EQ(folder.Read("resultfiles/tln.csv"), "");
+}
+
+TEST_F(OutOfMemoryTest, ASearchThatRunsOutOfMemoryAnywhereEndsWithItsCommandsFree) {
+    for (const char* name : {"a.cpr", "b.cpr"})
+        test::AddProject(folder, name, {{.name = "A plug-in with a long name"}});
+    window.folder = folder.Path("songs");
+    window.events.reserve(100);  // what the window writes down at the end takes no memory then
+    for (const auto failing : {test::Failing::One, test::Failing::AllFromThereOn}) {
+        const std::size_t failures = test::FailEach(
+            failing,
+            [&] {
+                window.events.clear();
+                window.messages.clear();
+                GetPlugins4AllProjects(application, window, lists);
+            },
+            [&] {
+                EXPECT_EQ(window.Count("ClearStatusBar"), 1U);
+                EXPECT_EQ(window.Count("EnableButtons"), 1U);
+                EXPECT_EQ(lists.ProjectFiles.UpperBound(), 0U);
+                EXPECT_EQ(lists.PluginOccurrences.size(), 0U);
+                EXPECT_EQ(lists.ProjectPluginKeys.UpperBound(), 0U);
+            });
+        EXPECT_GT(failures, 50U);
+    }
 }
 
 TEST_F(OutOfMemoryTest, AKeyIsAddedWhollyOrNotAtAll) {

@@ -22,8 +22,10 @@ namespace {
 
 using std::filesystem::perms;
 
+using Texts = std::vector<std::string>;
+
 /// The contents of the three result files.
-using Contents = std::vector<std::string>;
+using Contents = Texts;
 
 const std::vector<std::string> kNames = {"results.csv", "fln.csv", "tln.csv"};
 const Contents kOld = {"old results", "old fln", "old tln"};
@@ -69,14 +71,22 @@ class SearchFaultTest : public test::ApplicationTest {
         std::filesystem::permissions(folder.Path("resultfiles"), perms{0777});
     }
 
+    /// The window's last `count` events.
+    Texts LastEvents(std::ptrdiff_t count) const {
+        return {window.events.end() - count, window.events.end()};
+    }
+
     std::string NotCreatedMessage() const {
         return "Errors occurred while creating the result files. See " + folder.Path() +
                "\\resultfiles\\errorlog.txt for details.";
     }
 
     SearchLists lists;
-    std::vector<std::string> logged;  ///< procedures and numbers
+    Texts logged;  ///< procedures and numbers
 };
+
+const Texts kClosingSteps = {"ClearStatusBar", "Repaint", "EnableButtons"};
+constexpr const char* kUnexpected = "An unexpected error occurred.";
 
 TEST_F(SearchFaultTest, WhereverTheDiskIsFullASearchLeavesOldFilesOrNewOnes) {
     if (!test::FileSizeLimit::IsPossible())
@@ -139,6 +149,39 @@ TEST_F(SearchFaultTest, WhereverTheDiskIsFullEachResultFileIsWholeAndThoseBehind
     }
 }
 
+TEST_F(SearchFaultTest, AnErrorThatCannotBeToldIsLoggedAndTheClosingStepsAreTaken) {
+    AddProject("a.cpr", "Delay");
+    window.failing = {"DisableButtons", std::string("Message: ") + kUnexpected};
+    EXPECT_EQ(Search().outcome, SearchOutcome::Failed);
+    EXPECT_EQ(Log(), LogLine("GetPlugins4AllProjects", 5, "the window fails") +
+                         LogLine("GetPlugins4AllProjects", 5, "the window fails"));
+    EXPECT_EQ(LastEvents(3), kClosingSteps);
+}
+
+TEST_F(SearchFaultTest, AClosingStepThatFailsIsLoggedAndTheNextOnesAreTaken) {
+    folder.Write("songs/broken.cpr", "CcnK....FBCh" + std::string(100, '\0'));
+    Texts steps = kClosingSteps;
+    steps.push_back("Message: Errors occurred. See " + folder.Path() +
+                    "\\results\\errorlog.txt for details");
+    // The window is painted in the middle of the run, too, and fails there first: see below.
+    for (const std::string& step : {steps[0], steps[2], steps[3]}) {
+        window.failing = {step};
+        logged.clear();
+        EXPECT_EQ(Search().outcome, SearchOutcome::Written) << step;
+        EXPECT_EQ(std::count(logged.begin(), logged.end(), "GetPlugins4AllProjects 5"), 1) << step;
+        EXPECT_EQ(LastEvents(4), steps) << step;
+    }
+}
+
+TEST_F(SearchFaultTest, WhereTheWindowCannotBePaintedTheRunEndsWithItsCommandsFree) {
+    AddProject("a.cpr", "Delay");
+    window.failing = {"Repaint"};
+    EXPECT_EQ(Search().outcome, SearchOutcome::Failed);
+    EXPECT_EQ(logged, (Texts{"GetPlugins4AllProjects 5", "GetPlugins4AllProjects 5"}));
+    EXPECT_EQ(window.MessageTexts().back(), kUnexpected);
+    EXPECT_EQ(LastEvents(3), kClosingSteps);
+}
+
 TEST_F(SearchFaultTest, AFolderWhereANewResultFileIsWrittenFailsAndBothStay) {
     AddProject("a.cpr", "Delay");
     folder.MakeFolder("resultfiles/results.csv.new");
@@ -165,8 +208,8 @@ TEST_F(SearchFaultTest, AnUnreadableFolderAtAnyDepthEndsTheSearchAndTheOldResult
             const test::OrdinaryUser user;
             EXPECT_EQ(Search().outcome, SearchOutcome::Failed) << depth;
         }
-        EXPECT_EQ(logged, std::vector<std::string>{"GetPlugins4AllProjects 70"}) << depth;
-        EXPECT_EQ(window.MessageTexts().back(), "An unexpected error occurred.") << depth;
+        EXPECT_EQ(logged, Texts{"GetPlugins4AllProjects 70"}) << depth;
+        EXPECT_EQ(window.MessageTexts().back(), kUnexpected) << depth;
         EXPECT_EQ(ResultFiles(), kOld) << depth;
         EXPECT_EQ(getSetting(application, setting::kLastSearch), "") << depth;
         logged.clear();
@@ -221,7 +264,7 @@ TEST_F(SearchFaultTest, AFileInTheResultFoldersPlaceStaysAndTheFailureIsShown) {
     folder.Write("resultfiles", "a file");
     EXPECT_EQ(Search().outcome, SearchOutcome::Failed);
     EXPECT_EQ(window.MessageTexts().back(), NotCreatedMessage());
-    EXPECT_EQ(logged, std::vector<std::string>{"CreateResultFiles 76"});
+    EXPECT_EQ(logged, Texts{"CreateResultFiles 76"});
     EXPECT_EQ(folder.Read("resultfiles"), "a file");
 }
 

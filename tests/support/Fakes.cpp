@@ -4,6 +4,8 @@
 #include <array>
 #include <filesystem>
 #include <sstream>
+#include <stdexcept>
+#include <utility>
 
 #include "tests/support/TempFolder.h"
 
@@ -76,40 +78,46 @@ std::optional<platform::ShellIcon> FakeDesktop::SmallIcon(const std::string& pat
     return found == icons.end() ? std::nullopt : std::optional(found->second);
 }
 
+void RecordingWindow::WriteDown(std::string event) {
+    events.push_back(std::move(event));
+    if (failing.contains(events.back()))
+        throw std::runtime_error("the window fails");
+}
+
 void RecordingWindow::SetText1(const std::string& text) {
     text1 = text;
-    events.push_back("Text1: " + text);
+    WriteDown("Text1: " + text);
 }
 
 void RecordingWindow::SetText2(const std::string& text) {
     text2 = text;
-    events.push_back("Text2: " + text);
+    WriteDown("Text2: " + text);
 }
 
 void RecordingWindow::ClearStatusBar() {
     text1.clear();
     text2.clear();
-    events.emplace_back("ClearStatusBar");
+    WriteDown("ClearStatusBar");
 }
 
 void RecordingWindow::Repaint() {
-    events.emplace_back("Repaint");
+    WriteDown("Repaint");
     if (onRepaint)
         onRepaint();
 }
 
 void RecordingWindow::LetEventsRun() {
-    events.emplace_back("Events");
+    WriteDown("Events");
     if (onEvents)
         onEvents();
 }
 
 void RecordingWindow::SetHourglass(bool isShown) {
-    events.emplace_back(isShown ? "Hourglass" : "Usual pointer");
+    WriteDown(isShown ? "Hourglass" : "Usual pointer");
 }
 
 void RecordingWindow::AutoSizeListViewColumns() {
-    events.emplace_back("AutoSizeListViewColumns");
+    WriteDown("AutoSizeListViewColumns");
     if (onAutoSize)
         onAutoSize();
 }
@@ -119,19 +127,19 @@ void RecordingWindow::SetListViewLedger(std::int32_t bar1Colour, std::int32_t ba
     std::ostringstream event;
     event << "SetListViewLedger " << std::hex << bar1Colour << " " << bar2Colour << " "
           << sizingKind;
-    events.push_back(event.str());
+    WriteDown(event.str());
 }
 
 void RecordingWindow::DisableButtons() {
-    events.emplace_back("DisableButtons");
+    WriteDown("DisableButtons");
 }
 
 void RecordingWindow::EnableButtons() {
-    events.emplace_back("EnableButtons");
+    WriteDown("EnableButtons");
 }
 
 MessageAnswer RecordingWindow::ShowMessage(const Message& message) {
-    events.push_back("Message: " + message.text);
+    WriteDown("Message: " + message.text);
     messages.push_back(message);
     if (onMessage)
         onMessage(message);
@@ -143,7 +151,7 @@ MessageAnswer RecordingWindow::ShowMessage(const Message& message) {
 }
 
 std::string RecordingWindow::PickFolder(const std::string& prompt, const std::string& startFolder) {
-    events.push_back("PickFolder: " + prompt + " " + startFolder);
+    WriteDown("PickFolder: " + prompt + " " + startFolder);
     return folder;
 }
 

@@ -88,6 +88,8 @@ class RecordingWindow final : public MainWindow {
     std::size_t Count(const std::string& event) const;
 
     std::vector<std::string> events;
+    /// Events at which the window fails, once they are written down.
+    std::set<std::string> failing;
     std::vector<Message> messages;
     std::string cancelTag;
     std::string text1;
@@ -103,6 +105,9 @@ class RecordingWindow final : public MainWindow {
     std::function<void()> onAutoSize;
     std::function<void()> onRepaint;
     std::function<void(const Message&)> onMessage;
+
+  private:
+    void WriteDown(std::string event);
 };
 
 }  // namespace marlo::test
