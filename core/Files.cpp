@@ -23,7 +23,8 @@ using Attempt = std::function<void(std::error_code& error)>;
 
 /// Repeats `attempt`, which deletes or replaces the file at `path`, until it succeeds or the user
 /// cancels.
-/// @param answer receives the last button pressed; stays as it is when nothing was asked.
+/// @param answer receives the last button pressed, Cancel when the question failed; stays as it is
+///        when nothing was asked.
 void AskUntilFree(MainWindow& window, const std::string& path, MessageAnswer& answer,
                   const Attempt& attempt) {
     for (;;) {
@@ -31,6 +32,7 @@ void AskUntilFree(MainWindow& window, const std::string& path, MessageAnswer& an
         attempt(error);
         if (!error)
             return;
+        answer = MessageAnswer::Cancel;  // if the question fails
         answer = AskToClose(window, path);
         if (answer == MessageAnswer::Cancel)
             return;
@@ -58,11 +60,13 @@ bool FileExists(const Application& application, const std::string& path) {
 
 void AskCloseFileInUse(const Application& application, MainWindow& window,
                        std::string_view relativePath, MessageAnswer& answer) {
-    const std::string path = ApplicationPath(application, relativePath);
-    std::error_code error;
-    if (platform::IsFile(path, error))
-        AskUntilFree(window, path, answer,
-                     [&](std::error_code& failure) { platform::RemoveFile(path, failure); });
+    IgnoreFailures([&] {
+        const std::string path = ApplicationPath(application, relativePath);
+        std::error_code error;
+        if (platform::IsFile(path, error))
+            AskUntilFree(window, path, answer,
+                         [&](std::error_code& failure) { platform::RemoveFile(path, failure); });
+    });
 }
 
 StagedFile::StagedFile(const Application& application, MainWindow& window,

@@ -18,11 +18,12 @@ namespace marlo {
 bool FileExists(const Application& application, const std::string& path);
 
 /// Deletes a file under the application folder, and as long as it cannot be deleted asks the user
-/// to close whatever program holds it. Errors are ignored; a failed deletion is reported only
-/// through the question.
+/// to close whatever program holds it. Errors are ignored, those of the question, too; a failed
+/// deletion is reported only through the question.
 ///
 /// @param relativePath the file, with a "\" in front (see `ApplicationPath`).
-/// @param answer receives the last button pressed; stays as it is when nothing was asked.
+/// @param answer receives the last button pressed, and Cancel when the question cannot be asked;
+///        stays as it is when there is nothing to ask.
 void AskCloseFileInUse(const Application& application, MainWindow& window,
                        std::string_view relativePath, MessageAnswer& answer);
 
@@ -32,7 +33,8 @@ void AskCloseFileInUse(const Application& application, MainWindow& window,
 ///
 /// As long as the old file is there and nothing may be put in its place, the user is asked to close
 /// whatever program holds it, with the same question as `AskCloseFileInUse`. `Create` and
-/// `MoveIntoPlace` return false when the user cancels; the old file is then as it was.
+/// `MoveIntoPlace` return false when the user cancels; the old file is then as it was. A question
+/// that cannot be asked is nobody's answer: what it throws goes on to the caller.
 class StagedFile {
   public:
     /// @param relativePath the file, with a "\" in front (see `ApplicationPath`).

@@ -1,5 +1,6 @@
 #include <filesystem>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -99,6 +100,16 @@ TEST_F(HeldFileTest, AskCloseFileInUseStopsAtCancel) {
     EXPECT_EQ(window.messages[0].buttons, MessageButtons::OkCancel);
     EXPECT_EQ(window.messages[0].icon, MessageIcon::Exclamation);
     EXPECT_EQ(window.messages[0].title, "");
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(HeldFileTest, AskCloseFileInUseTakesAQuestionThatFailsForCancel) {
+    window.failing = {"Message: " + Question()};
+    MessageAnswer answer = MessageAnswer::None;
+    AskCloseFileInUse(application, window, kResults, answer);
+    EXPECT_EQ(answer, MessageAnswer::Cancel);
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
+    EXPECT_EQ(window.events.size(), 1U);
     EXPECT_EQ(Log(), "");
 }
 
@@ -251,6 +262,17 @@ TEST_F(HeldFileTest, AStagedFileLeavesTheOldOneWhenTheUserCancels) {
     EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
     EXPECT_FALSE(folder.Exists("resultfiles/results.csv.new"));
     EXPECT_EQ(window.MessageTexts(), std::vector{Question()});
+}
+
+TEST_F(HeldFileTest, AStagedFilesQuestionThatFailsIsAFailureAndNoCancel) {
+    window.failing = {"Message: " + Question()};
+    {
+        StagedFile file(application, window, kResults);
+        EXPECT_TRUE(file.Create());
+        EXPECT_THROW(file.MoveIntoPlace(), std::runtime_error);
+    }
+    EXPECT_EQ(folder.Read("resultfiles/results.csv"), "old");
+    EXPECT_FALSE(folder.Exists("resultfiles/results.csv.new"));
 }
 
 TEST_F(HeldFileTest, AStagedFileTakesItsPlaceOnceTheOldOneIsFree) {

@@ -11,15 +11,18 @@
 #include <gtest/gtest.h>
 
 #include "core/ErrorLog.h"
+#include "core/Files.h"
 #include "core/RunTimeError.h"
 #include "tests/support/ApplicationTest.h"
 #include "tests/support/FailingAllocation.h"
+#include "tests/support/HeldFiles.h"
 
 namespace marlo {
 namespace {
 
 using test::Failing;
 
+constexpr const char* kResults = "\\resultfiles\\results.csv";
 constexpr const char* kLongText = "a text that is too long to be kept without an allocation";
 
 class CoreOutOfMemoryTest : public test::ApplicationTest {
@@ -82,6 +85,29 @@ TEST_F(CoreOutOfMemoryTest, MemoryThatRanOutOnceIsLogged) {
         Failing::One, [&] { RunGuarded(application, "p", useMemory); },
         [&] { EXPECT_EQ(TakeLog(), LogLine("p", 7, "Out of memory")); });
     EXPECT_EQ(failures, 1U);
+}
+
+TEST_F(CoreOutOfMemoryTest, AFileInUseIsAskedAboutWithoutAFailure) {
+    if (!test::HeldFiles::ArePossible())
+        GTEST_SKIP() << test::kNoHeldFiles;
+    const std::string path = folder.Write("resultfiles/results.csv", "old");
+    const test::HeldFiles held({path});
+    MessageAnswer answer = MessageAnswer::None;
+    for (const Failing failing : {Failing::One, Failing::AllFromThereOn}) {
+        window.answers = {MessageAnswer::Cancel};
+        const std::size_t failures = test::FailEach(
+            failing,
+            [&] {
+                answer = MessageAnswer::None;
+                AskCloseFileInUse(application, window, kResults, answer);
+            },
+            [&] {
+                EXPECT_NE(answer, MessageAnswer::Ok);
+                window.answers = {MessageAnswer::Cancel};
+            });
+        EXPECT_GT(failures, 3U);
+        EXPECT_EQ(answer, MessageAnswer::Cancel) << "with enough memory";
+    }
 }
 
 }  // namespace
