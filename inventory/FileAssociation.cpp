@@ -82,7 +82,7 @@ void FillInCsvProgram(const Application& application) {
     if (!getSetting(application, setting::kCsvProgram).empty())
         return;
     const std::string program = GetAssociatedApp(application, ".csv");
-    if (!program.empty() && FitsSetting(program))
+    if (!program.empty())
         WriteSetting(application, setting::kCsvProgram, program);
 }
 

@@ -19,7 +19,7 @@ namespace marlo {
 std::string GetAssociatedApp(const Application& application, const std::string& extension);
 
 /// Where no program for the CSV result files is chosen yet, takes the one that is associated with
-/// ".csv", if there is one.
+/// ".csv", if there is one. It is cut to `kMaxSettingLength` bytes.
 void FillInCsvProgram(const Application& application);
 
 }  // namespace marlo

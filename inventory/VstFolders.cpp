@@ -15,10 +15,12 @@ namespace {
 /// Where the registry says that the plug-ins of all hosts are.
 std::string SharedVstFolder(const Application& application) {
     std::int32_t keyType = 0;
-    const auto path = GetRegistryValue(application, platform::kLocalMachine, "software\\vst",
-                                       "VSTPluginsPath", keyType);
-    const auto* const text = std::get_if<std::string>(&path);
-    return text == nullptr || text->empty() ? "" : application.registry.LocalPath(*text);
+    const RegistryValue value = GetRegistryValue(application, platform::kLocalMachine,
+                                                 "software\\vst", "VSTPluginsPath", keyType);
+    if (keyType == platform::registry_type::kBinary)
+        return "";  // bytes are no text
+    const std::string path = TextOf(value);
+    return path.empty() ? "" : application.registry.LocalPath(path);
 }
 
 }  // namespace
@@ -53,7 +55,7 @@ void FillInVstFolder(const Application& application) {
     if (!getSetting(application, setting::kFirstVstFolder).empty())
         return;
     const std::string folder = SharedVstFolder(application);
-    if (!folder.empty() && FitsSetting(folder))
+    if (!folder.empty())
         WriteSetting(application, setting::kFirstVstFolder, folder);
 }
 

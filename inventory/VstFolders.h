@@ -24,8 +24,9 @@ std::vector<std::string> ReadVstFolders(const Application& application);
 bool WriteVstFolders(const Application& application, const std::vector<std::string>& folders);
 
 /// Where there is no VST plug-in folder yet, takes the one that the registry names for all hosts:
-/// "software\vst" of HKEY_LOCAL_MACHINE, value "VSTPluginsPath". Nothing happens when it names
-/// none, or none that this machine has.
+/// "software\vst" of HKEY_LOCAL_MACHINE, value "VSTPluginsPath", a text or a number. It is cut to
+/// `kMaxSettingLength` bytes. Nothing happens when the registry names none, or none that this
+/// machine has.
 void FillInVstFolder(const Application& application);
 
 }  // namespace marlo

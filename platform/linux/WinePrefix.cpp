@@ -53,6 +53,12 @@ std::string MatchName(const std::string& folder, const std::string& name) {
     return found == names.end() ? std::string() : *found;
 }
 
+/// `path` without the spaces at its ends, which name nothing on Windows.
+std::string_view TrimSpaces(std::string_view path) {
+    path.remove_prefix(std::min(path.find_first_not_of(' '), path.size()));
+    return path.substr(0, path.find_last_not_of(' ') + 1);
+}
+
 /// Takes the first name off a Windows path.
 std::string TakeName(std::string_view& path) {
     constexpr const char* separators = "\\/";
@@ -260,7 +266,7 @@ void WinePrefix::CloseKey(RegistryKey key) {
 
 std::string WinePrefix::LocalPath(const std::string& path) {
     const std::string utf8 = Utf8FromName(path);
-    std::string_view rest = utf8;
+    std::string_view rest = TrimSpaces(utf8);
     std::string drive = TakeName(rest);
     if (folder_.empty() || utf8.find('\0') != std::string::npos || drive.size() != 2 ||
         drive[1] != ':')

@@ -37,7 +37,7 @@ class WinePrefix final : public Registry {
     void CloseKey(RegistryKey key) override;
 
     /// A path with a drive letter leads through the prefix's "dosdevices", each name matched
-    /// without regard to case.
+    /// without regard to case. Spaces at the path's ends count for nothing.
     std::string LocalPath(const std::string& path) override;
 
     std::error_code Problem() override;

@@ -119,6 +119,18 @@ TEST_F(FileAssociationTest, TheProgramForCsvFilesIsFilledInWhereNoneIsChosen) {
     EXPECT_EQ(getSetting(application, 4), "/usr/bin/sheets");
 }
 
+TEST_F(FileAssociationTest, SpacesAtTheEndsOfTheProgramAreNotReadBack) {
+    Associate(" C:\\a.exe %1");
+    FillInCsvProgram(application);
+    EXPECT_EQ(getSetting(application, 4), "C:\\a.exe");
+}
+
+TEST_F(FileAssociationTest, TheProgramIsCutTo256Bytes) {
+    desktop.programs = {{".csv", std::string(257, 'x')}};
+    FillInCsvProgram(application);
+    EXPECT_EQ(getSetting(application, 4), std::string(256, 'x'));
+}
+
 TEST_F(FileAssociationTest, WithoutAProgramForCsvFilesNoneIsFilledIn) {
     FillInCsvProgram(application);
     EXPECT_EQ(getSetting(application, 4), "");

@@ -110,19 +110,36 @@ TEST_F(VstFoldersTest, ARegistryThatNamesNoFolderLeavesTheListEmpty) {
     FillInVstFolder(application);
     SetInRegistry("");
     FillInVstFolder(application);
-    registry.SetDword(platform::kLocalMachine, "software\\vst", "VSTPluginsPath", 5);
+    registry.Set(platform::kLocalMachine, "software\\vst", "VSTPluginsPath",
+                 platform::registry_type::kBinary, {'C', ':'});
     FillInVstFolder(application);
     EXPECT_EQ(ReadVstFolders(application), Folders{});
     EXPECT_EQ(Log(), "");
 }
 
-TEST_F(VstFoldersTest, AFolderThatThisMachineDoesNotHaveOrThatIsTooLongIsNotTaken) {
+TEST_F(VstFoldersTest, AFolderThatThisMachineDoesNotHaveIsNotTaken) {
     SetInRegistry("C:\\Vst");
     registry.localPath = [](const std::string&) { return ""; };
     FillInVstFolder(application);
-    registry.localPath = [](const std::string&) { return std::string(257, 'x'); };
-    FillInVstFolder(application);
     EXPECT_EQ(ReadVstFolders(application), Folders{});
+}
+
+TEST_F(VstFoldersTest, SpacesAtTheEndsOfTheRegistrysFolderAreNotReadBack) {
+    SetInRegistry(" C:\\Vst ");
+    FillInVstFolder(application);
+    EXPECT_EQ(ReadVstFolders(application), Folders{"C:\\Vst"});
+}
+
+TEST_F(VstFoldersTest, TheRegistrysFolderIsCutTo256Bytes) {
+    SetInRegistry(" " + std::string(256, 'x'));
+    FillInVstFolder(application);
+    EXPECT_EQ(ReadVstFolders(application), Folders{std::string(255, 'x')});
+}
+
+TEST_F(VstFoldersTest, ANumberInTheRegistryIsTakenAsItsText) {
+    registry.SetDword(platform::kLocalMachine, "software\\vst", "VSTPluginsPath", 5);
+    FillInVstFolder(application);
+    EXPECT_EQ(ReadVstFolders(application), Folders{"5"});
 }
 
 }  // namespace

@@ -352,6 +352,12 @@ TEST_F(LocalPathTest, AWindowsPathLeadsThroughItsDriveWithoutRegardToCase) {
     EXPECT_EQ(prefix.LocalPath("Z:\\"), "/");
 }
 
+TEST_F(LocalPathTest, SpacesAtTheEndsCountForNothing) {
+    EXPECT_EQ(prefix.LocalPath(" C:\\Program Files\\VstPlugins  "),
+              InDrive("Program Files/VstPlugins"));
+    EXPECT_EQ(prefix.LocalPath("  "), "");
+}
+
 TEST_F(LocalPathTest, ANameInTheAnsiPageOrInUtf8IsMatched) {
     const std::string expected = InDrive("Program Files/VstPlugins/Réverb");
     EXPECT_EQ(prefix.LocalPath("C:\\Program Files\\VstPlugins\\R\xC9VERB"), expected);
