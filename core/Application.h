@@ -32,16 +32,21 @@ struct Application {
 /// The title of message boxes that have none of their own.
 inline constexpr std::string_view kApplicationTitle = "Marlo";
 
-/// The full path of the result folder under an application folder. It may be spelt in any case on
-/// the disk, also on a file system that tells cases apart; where it is missing, it has its usual
-/// name.
+/// The full path of the result folder under an application folder. What is said of the case of
+/// names below goes for it, too.
 std::string ResultFolder(const std::string& applicationFolder);
 
-/// The full path of a file under the application folder. What is said of the result folder on the
-/// disk goes for its name here, too.
+/// The full path of a file under the application folder.
 ///
-/// @param relativePath names joined by "\", with a "\" in front, for example
-///        "\resultfiles\results.csv" (see ResultFileNames.h).
+/// The case of the names carries no meaning: a file and the folder that it is in may be spelt in
+/// any case on the disk, also on a file system that tells cases apart. The usual name goes before
+/// others, and among these the first in the order of their bytes; what is missing has its usual
+/// name.
+///
+/// @param relativePath the usual names joined by "\", with a "\" in front, for example
+///        "\resultfiles\results.csv" (see ResultFileNames.h). The result folder's may be spelt in
+///        any case here, too.
 std::string ApplicationPath(const Application& application, std::string_view relativePath);
+std::string ApplicationPath(const std::string& applicationFolder, std::string_view relativePath);
 
 }  // namespace marlo

@@ -9,6 +9,7 @@
 
 #include "app/ApplicationFolder.h"
 #include "app/gui/TextConversion.h"
+#include "core/Application.h"
 #include "platform/FileSystem.h"
 
 namespace marlo::gui {
@@ -35,12 +36,10 @@ bool IsDrawing(const std::string& path) {
 }  // namespace
 
 std::string PicturePath(const std::string& applicationFolder, const std::string& name) {
-    const auto in = [&](const std::string& folder) {
-        return platform::JoinPath(platform::JoinPath(folder, "icons"), name);
-    };
+    const std::string relativePath = "\\icons\\" + name;
     std::error_code error;
-    const std::string own = in(applicationFolder);
-    return platform::IsFile(own, error) ? own : in(ProgramFiles());
+    const std::string own = ApplicationPath(applicationFolder, relativePath);
+    return platform::IsFile(own, error) ? own : ApplicationPath(ProgramFiles(), relativePath);
 }
 
 wxBitmap LoadPicture(const wxWindow& window, const std::string& path, const wxSize& size) {

@@ -1,4 +1,7 @@
 #include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -24,6 +27,23 @@ TEST_F(ApplicationPathTest, TheResultFolderIsFoundWhateverTheCaseOfItsName) {
     std::filesystem::rename(folder.Path("resultfiles"), folder.Path("ResultFILES"));
     EXPECT_TRUE(std::filesystem::equivalent(ApplicationPath(application, "\\resultfiles\\a.csv"),
                                             folder.Write("ResultFILES/a.csv", "")));
+}
+
+TEST_F(ApplicationPathTest, AFileIsFoundWhateverTheCaseOfItsNameAndOfItsFolders) {
+    std::filesystem::remove(folder.Path("resultfiles"));
+    for (const auto& [relativePath, name] : {std::pair("\\settings.ini", "Settings.INI"),
+                                             {"\\resultfiles\\tln.csv", "RESULTFILES/TLN.CSV"},
+                                             {"\\icons\\donate_b&w.gif", "Icons/Donate_B&W.gif"}}) {
+        const std::string path = folder.Write(name, "");
+        EXPECT_TRUE(std::filesystem::equivalent(ApplicationPath(application, relativePath), path))
+            << name;
+    }
+}
+
+TEST_F(ApplicationPathTest, AFolderOfThatNameIsNotTheFile) {
+    folder.MakeFolder("resultfiles/TLN.CSV");
+    EXPECT_EQ(ApplicationPath(application, "\\resultfiles\\tln.csv"),
+              folder.Path("resultfiles/tln.csv"));
 }
 
 TEST_F(ApplicationPathTest, AFileOfThatNameIsNotTheResultFolder) {

@@ -30,6 +30,12 @@ TEST_F(ErrorLogTest, TwoErrorsInARowGiveTwoLinesAndNothingEarlierIsRemoved) {
     EXPECT_EQ(Log(), "earlier\r\n" + LogLine("first", 5, "a") + LogLine("second", 6, "b"));
 }
 
+TEST_F(ErrorLogTest, TheFileIsWrittenToWhateverTheCaseOfItsName) {
+    folder.Write("resultfiles/ErrorLog.TXT", "earlier\r\n");
+    WriteErrorLog(application, "p", 5, "a");
+    EXPECT_EQ(folder.Read("resultfiles/ErrorLog.TXT"), "earlier\r\n" + LogLine("p", 5, "a"));
+}
+
 TEST_F(ErrorLogTest, ADescriptionWithALineBreakSpansSeveralLines) {
     WriteErrorLog(application, "p", 1, "one\r\ntwo");
     EXPECT_EQ(Log(), LogLine("p", 1, "one\r\ntwo"));

@@ -35,6 +35,13 @@ TEST_F(SettingsTest, WritingRecord50ToAnEmptyFileGivesFiftyRecordsWithZerosInFro
     EXPECT_EQ(getSetting(application, 50), "C:\\VstPlugins");
 }
 
+TEST_F(SettingsTest, TheFileIsReadAndWrittenWhateverTheCaseOfItsName) {
+    folder.Write("Settings.INI", "one");
+    EXPECT_EQ(getSetting(application, 1), "one");
+    EXPECT_TRUE(WriteSetting(application, 1, "two"));
+    EXPECT_EQ(folder.Read("Settings.INI"), "two" + std::string(256 - 3, ' '));
+}
+
 TEST_F(SettingsTest, SpacesAtTheEndsOfAValueAreNotReadBack) {
     WriteSetting(application, 4, "  x");
     EXPECT_EQ(getSetting(application, 4), "x");

@@ -169,6 +169,14 @@ TEST_F(StartTest, ThePicturesOfDonateAndSearchAreGreyWhileTheyCannotBeUsed) {
     }));
 }
 
+TEST_F(StartTest, APictureIsFoundWhateverTheCaseOfItsName) {
+    AddPictures();
+    std::filesystem::rename(folder.Path("icons/donate.gif"), folder.Path("icons/Donate.GIF"));
+    std::filesystem::rename(folder.Path("icons"), folder.Path("Icons"));
+    Open();
+    EXPECT_TRUE(test::RunEventsUntil([&] { return Colourfulness(Find("btnDonate")) > 120; }));
+}
+
 TEST_F(StartTest, TheWindowTakesItsIconsFromTheApplicationFolder) {
     Open();
     EXPECT_FALSE(test::HasIcon(Window())) << "without the file there are none";

@@ -56,6 +56,12 @@ TEST_F(ShowAllPluginsTest, ARowHasNameTypeAndAVstPluginsPath) {
     EXPECT_TRUE(window.events.empty());
 }
 
+TEST_F(ShowAllPluginsTest, AFileIsReadWhateverTheCaseOfItsName) {
+    std::filesystem::rename(folder.Path("resultfiles"), folder.Path("RESULTFILES"));
+    folder.Write("RESULTFILES/InstalledPlugins.CSV", "\"DirectX\",\"Echo\",\"<empty>\"\r\n");
+    EXPECT_EQ(All(), (ShownRows{{{"Echo", "DirectX", ""}}}));
+}
+
 TEST_F(ShowAllPluginsTest, IgnoredDirectXPluginsAreLeftOutAndTheTypeIsNotFilled) {
     IgnoreDirectX();
     WriteInstalled({{"DirectX", "Echo", "<empty>"}, {"VST", "Reverb", kReverbPath}});

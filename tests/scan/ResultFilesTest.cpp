@@ -1,4 +1,5 @@
 #include <filesystem>
+#include <iterator>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -41,6 +42,15 @@ TEST_F(ResultFilesTest, ARunWithoutPluginsWritesThreeEmptyFiles) {
     EXPECT_EQ(Fln(), "");
     EXPECT_EQ(Tln(), "");
     EXPECT_TRUE(window.events.empty());
+}
+
+TEST_F(ResultFilesTest, AnOldFileIsReplacedWhateverTheCaseOfItsName) {
+    folder.Write("resultfiles/TLN.CSV", "old");
+    AddUse("A.cpr", "Delay", "On");
+    EXPECT_TRUE(Create());
+    EXPECT_EQ(folder.Read("resultfiles/TLN.CSV"), "\"Delay\",\"VST\",\"On\"\r\n");
+    const std::filesystem::directory_iterator files(folder.Path("resultfiles"));
+    EXPECT_EQ(std::distance(begin(files), end(files)), 3);
 }
 
 TEST_F(ResultFilesTest, OnePluginInTwoProjectsIsMergedByProjectAndOverAll) {
