@@ -117,12 +117,18 @@ void Search(const Application& application, MainWindow& window, SearchLists& lis
     window.ShowMessage({.text = "Cancelled", .icon = MessageIcon::Information});
 }
 
+/// `value` with the digits that its type has. Some processors calculate with more of them.
+double Rounded(double value) {
+    const volatile double rounded = value;
+    return rounded;
+}
+
 }  // namespace
 
 int SearchPercentage(int index, int count) {
     // Dividing first loses a little, and users know the figures that come of it.
-    const double share = static_cast<double>(index) / static_cast<double>(count);
-    return static_cast<int>(std::floor(share * 100.0));
+    const double share = Rounded(static_cast<double>(index) / static_cast<double>(count));
+    return static_cast<int>(std::floor(Rounded(share * 100.0)));
 }
 
 SearchSummary GetPlugins4AllProjects(const Application& application, MainWindow& window,
