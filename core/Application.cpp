@@ -1,7 +1,6 @@
 #include "core/Application.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 #include "core/Text.h"

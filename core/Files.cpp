@@ -1,6 +1,7 @@
 #include "core/Files.h"
 
 #include <system_error>
+#include <utility>
 
 #include "core/ErrorLog.h"
 #include "core/RunTimeError.h"
@@ -97,13 +98,15 @@ bool StagedFile::Create() {
     std::error_code ignored;
     if (platform::IsFolder(path_, ignored))
         throw RunTimeError(ErrorNumber::PathFileAccess);
-    const std::string stagingPath = path_ + ".new";
-    const bool isCreated = Try([&](std::error_code& error) {
-        writer_ = LineWriter(platform::File::OpenExclusively(stagingPath, error));
+    std::string stagingPath = path_ + ".new";
+    return Try([&](std::error_code& error) {
+        auto file = platform::File::OpenExclusively(stagingPath, error);
+        if (error)
+            return;
+        // Nothing from here on takes memory, so the file is not left behind for want of it.
+        staged_.emplace(std::move(stagingPath));
+        writer_ = LineWriter(std::move(file));
     });
-    if (isCreated)
-        staged_.emplace(stagingPath);
-    return isCreated;
 }
 
 bool StagedFile::MoveIntoPlace() {

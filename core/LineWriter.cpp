@@ -1,5 +1,6 @@
 #include "core/LineWriter.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/RunTimeError.h"
@@ -9,19 +10,20 @@ namespace marlo {
 namespace {
 
 constexpr std::size_t kWriteSize = std::size_t{256} * 1024;
+constexpr std::string_view kLineEnd = "\r\n";
 
 }  // namespace
 
-LineWriter::LineWriter(platform::File file) : file_(std::move(file)) {
-    buffer_.reserve(kWriteSize);
-}
+LineWriter::LineWriter(platform::File file) noexcept : file_(std::move(file)) {}
 
 LineWriter::~LineWriter() {
     HandOver();
 }
 
 void LineWriter::WriteLine(std::string_view text) {
-    buffer_.append(text).append("\r\n");
+    // Where memory runs out, it does so before a part of the line is in the buffer.
+    buffer_.reserve(std::max(kWriteSize, buffer_.size() + text.size() + kLineEnd.size()));
+    buffer_.append(text).append(kLineEnd);
     ++lineCount_;
     if (buffer_.size() >= kWriteSize)
         Flush();

@@ -17,7 +17,7 @@ class LineWriter {
     /// Writes nowhere until another writer is assigned to it.
     LineWriter() = default;
     /// @param file open for writing.
-    explicit LineWriter(platform::File file);
+    explicit LineWriter(platform::File file) noexcept;
     LineWriter(const LineWriter&) = delete;
     LineWriter& operator=(const LineWriter&) = delete;
     LineWriter(LineWriter&& other) = default;

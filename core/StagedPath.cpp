@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/ErrorLog.h"
 #include "platform/FileSystem.h"
 
 namespace marlo {
@@ -9,9 +10,11 @@ namespace marlo {
 StagedPath::StagedPath(std::string path) : path_(std::move(path)) {}
 
 StagedPath::~StagedPath() {
-    std::error_code ignored;
-    if (!isInPlace_)
-        platform::RemoveFile(path_, ignored);
+    IgnoreFailures([this] {
+        std::error_code ignored;
+        if (!isInPlace_)
+            platform::RemoveFile(path_, ignored);
+    });
 }
 
 void StagedPath::MoveTo(const std::string& place, std::error_code& error) {

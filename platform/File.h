@@ -34,8 +34,9 @@ class File {
     static File OpenForAppending(const std::string& path, std::error_code& error);
 
     /// Opens an empty file that nobody else may open this way until it is closed, or this program
-    /// ends in whatever way. What an earlier owner left in it is dropped. A link is not followed.
-    /// While another program has it open so, this fails with `errc::device_or_resource_busy`.
+    /// ends in whatever way; on a file system without locks, nobody is kept out. What an earlier
+    /// owner left in it is dropped. A link is not followed. While another program has it open so,
+    /// this fails with `errc::device_or_resource_busy`.
     static File OpenExclusively(const std::string& path, std::error_code& error);
 
     /// Creates a file for writing, and nothing else: what is there already stays, and is refused as
@@ -58,7 +59,7 @@ class File {
     /// appending, at its end.
     void Write(std::string_view bytes, std::error_code& error);
 
-    /// Waits until everything written is on the disk.
+    /// Waits until everything written is on the disk, where the file system offers that.
     void Flush(std::error_code& error);
 
   private:

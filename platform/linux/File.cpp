@@ -26,6 +26,19 @@ std::error_code CheckRegular(int handle) {
     return {};
 }
 
+/// Whether a call failed because the file system does not offer what was asked for.
+bool IsNotOffered(int failure) {
+    return failure == EINVAL || failure == ENOLCK || failure == ENOSYS || failure == EOPNOTSUPP;
+}
+
+/// Locks an open file until it is closed, where the file system has locks.
+std::error_code Lock(int handle) {
+    if (flock(handle, LOCK_EX | LOCK_NB) == 0 || IsNotOffered(errno))
+        return {};
+    return errno == EWOULDBLOCK ? std::make_error_code(std::errc::device_or_resource_busy)
+                                : PosixError();
+}
+
 /// Whether the open file is still the one that `path` names.
 bool IsStillAt(int handle, const std::string& path) {
     struct stat open {};
@@ -84,22 +97,27 @@ File File::OpenForAppending(const std::string& path, std::error_code& error) {
 
 File File::OpenExclusively(const std::string& path, std::error_code& error) {
     for (;;) {
-        File file = Open(path, {O_WRONLY | O_CREAT | O_NOFOLLOW}, error);
+        File file = CreateNew(path, error);
+        const bool isNew = !error;
+        if (error == std::errc::file_exists) {
+            file = Open(path, {O_WRONLY | O_NOFOLLOW}, error);
+            if (error == std::errc::no_such_file_or_directory)
+                continue;  // its owner has moved it away
+        }
         if (error)
             return {};
-        if (flock(file.handle_, LOCK_EX | LOCK_NB) != 0) {
-            error = errno == EWOULDBLOCK ? std::make_error_code(std::errc::device_or_resource_busy)
-                                         : PosixError();
-            return {};
-        }
+        error = Lock(file.handle_);
         // Between opening and locking, the owner before us may have moved the file away.
-        if (!IsStillAt(file.handle_, path))
+        if (!error && !IsStillAt(file.handle_, path))
             continue;
-        if (ftruncate(file.handle_, 0) != 0) {
+        if (!error && ftruncate(file.handle_, 0) != 0)
             error = PosixError();
-            return {};
-        }
-        return file;
+        if (!error)
+            return file;
+        // What was there before, or is locked by now, is another program's.
+        if (isNew && error != std::errc::device_or_resource_busy)
+            unlink(path.c_str());
+        return {};
     }
 }
 
@@ -146,7 +164,7 @@ void File::Write(std::string_view bytes, std::error_code& error) {
 }
 
 void File::Flush(std::error_code& error) {
-    error = fsync(handle_) == 0 ? std::error_code() : PosixError();
+    error = fsync(handle_) == 0 || IsNotOffered(errno) ? std::error_code() : PosixError();
 }
 
 // NOLINTEND(readability-make-member-function-const)

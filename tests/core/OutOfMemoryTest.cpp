@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <new>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -107,6 +108,27 @@ TEST_F(CoreOutOfMemoryTest, AFileInUseIsAskedAboutWithoutAFailure) {
             });
         EXPECT_GT(failures, 3U);
         EXPECT_EQ(answer, MessageAnswer::Cancel) << "with enough memory";
+    }
+}
+
+TEST_F(CoreOutOfMemoryTest, AStagedFileThatRunsOutOfMemoryLeavesNothingBehind) {
+    std::optional<StagedFile> file;
+    for (const Failing failing : {Failing::One, Failing::AllFromThereOn}) {
+        const std::size_t failures = test::FailEach(
+            failing,
+            [&] {
+                RunGuarded(application, "p", [&] {
+                    file.emplace(application, window, kResults);
+                    file->Create();
+                    file->Lines().WriteLine(kLongText);
+                });
+            },
+            [&] {
+                file.reset();
+                EXPECT_FALSE(folder.Exists("resultfiles/results.csv.new"));
+            });
+        EXPECT_GT(failures, 2U);
+        file.reset();
     }
 }
 
