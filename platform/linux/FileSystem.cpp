@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 #include "platform/PathCheck.h"
 #include "platform/linux/PosixError.h"

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <utility>
 
 #include "platform/PathCheck.h"
 #include "platform/windows/System.h"
