@@ -132,5 +132,15 @@ TEST_F(CoreOutOfMemoryTest, AStagedFileThatRunsOutOfMemoryLeavesNothingBehind) {
     }
 }
 
+TEST_F(CoreOutOfMemoryTest, AStagedFileThatCannotEvenBeDeletedEndsNothing) {
+    const std::size_t failures = test::FailEach(Failing::AllFromThereOn, [&] {
+        RunGuarded(application, "p", [&] {
+            StagedFile file(application, window, kResults);
+            file.Create();
+        });
+    });
+    EXPECT_GT(failures, 2U);
+}
+
 }  // namespace
 }  // namespace marlo
