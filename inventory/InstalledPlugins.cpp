@@ -1,7 +1,5 @@
 #include "inventory/InstalledPlugins.h"
 
-#include <functional>
-
 #include "core/ErrorLog.h"
 #include "core/Files.h"
 #include "core/LineWriter.h"
@@ -42,8 +40,8 @@ void FindPlugins(const Application& application, MainWindow& window, LineWriter&
 }
 
 /// Logs a failure of `body`.
-void RunPart(const Application& application, InventorySummary& summary,
-             const std::function<void()>& body) {
+template <class Body>
+void RunPart(const Application& application, InventorySummary& summary, Body body) {
     if (!RunGuarded(application, "RefreshPlugins", body))
         summary.outcome = InventoryOutcome::Failed;
 }
