@@ -94,13 +94,13 @@ void CountReports() {
         ResultPane pane{reports, window};
         ShowInstalledPlugins(pane, kind);
     };
-    Count("report-of-used-10000-lines", [&] { show(report_kind::kUsed); });
-    Count("report-of-uninstalled-10000-lines", [&] { show(report_kind::kUninstalled); });
+    Count("report-of-used-10000-lines", [&] { show(NameOf(ReportKind::Used)); });
+    Count("report-of-uninstalled-10000-lines", [&] { show(NameOf(ReportKind::Uninstalled)); });
     const Application search = ApplicationIn(SearchFolder(100'000));
     const auto find = [&](bool ignoresCase) {
         ResultPane pane{search, window};
         cmdFind_Click(pane, {.txtSearchText = kRarePlugin,
-                             .cboSearchType = match_type::kContains,
+                             .cboSearchType = MatchType::Contains,
                              .chkIgnoreCase = ignoresCase});
     };
     Count("search-100000-lines", [&] { find(false); });

@@ -74,7 +74,7 @@ void RegisterSearch(const std::string& name, const std::string& what, bool ignor
               .run =
                   [=](State& state, std::size_t lines) {
                       const SearchPane search{.txtSearchText = kRarePlugin,
-                                              .cboSearchType = match_type::kContains,
+                                              .cboSearchType = MatchType::Contains,
                                               .chkIgnoreCase = ignoresCase};
                       Search(state, SearchFolder(lines), search, lines / kLinesPerRareUse);
                   },
@@ -93,10 +93,10 @@ void RegisterSearch(const std::string& name, const std::string& what, bool ignor
 }
 
 const bool registered = [] {
-    RegisterReport("used", report_kind::kUsed, true);
-    RegisterReport("uninstalled", report_kind::kUninstalled, true);
-    RegisterReport("installed", report_kind::kAll, false);
-    RegisterReport("unused", report_kind::kUnused, false);
+    RegisterReport("used", NameOf(ReportKind::Used), true);
+    RegisterReport("uninstalled", NameOf(ReportKind::Uninstalled), true);
+    RegisterReport("installed", NameOf(ReportKind::All), false);
+    RegisterReport("unused", NameOf(ReportKind::Unused), false);
     RegisterSearch("search", "search of the result files, lines", false, 3);
     RegisterSearch("search-ignoring-case", "the same, ignoring case, lines", true, 3);
     return true;

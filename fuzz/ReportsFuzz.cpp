@@ -30,15 +30,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     WriteSetting(sandbox.application, setting::kIgnoreOff, (choices & 2U) != 0 ? "1" : "0");
 
     ResultPane pane{sandbox.application, sandbox.window};
-    for (const char* const kind :
-         {report_kind::kUsed, report_kind::kUnused, report_kind::kAll, report_kind::kUninstalled}) {
-        ShowInstalledPlugins(pane, kind);
+    for (const ReportKind kind :
+         {ReportKind::Used, ReportKind::Unused, ReportKind::All, ReportKind::Uninstalled}) {
+        ShowInstalledPlugins(pane, NameOf(kind));
         LookAtAllCells(pane.lstSongs);
     }
-    cmdFind_Click(pane, {.mode = (choices & 4U) != 0 ? search_mode::kPluginsInProject
-                                                     : search_mode::kProjectsByPlugin,
+    cmdFind_Click(pane, {.mode = (choices & 4U) != 0 ? SearchMode::PluginsInProject
+                                                     : SearchMode::ProjectsByPlugin,
                          .txtSearchText = parts[3],
-                         .cboSearchType = kMatchTypes.at(choices / 8 % kMatchTypes.size()),
+                         .cboSearchType = MatchTypeAt(choices / 8 % kMatchTypes.size()),
                          .chkIgnoreCase = (choices & 32U) != 0});
     LookAtAllCells(pane.lstSongs);
     return 0;

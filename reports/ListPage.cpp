@@ -6,7 +6,6 @@
 #include <string_view>
 
 #include "core/Text.h"
-#include "reports/ColumnTitles.h"
 #include "reports/ResultPane.h"
 
 namespace marlo {
@@ -123,9 +122,8 @@ std::string Counts(const ResultList& list) {
 /// Keeps the columns of short texts from being broken to make room for the others.
 void WriteStyleOfShortColumns(std::ostream& page, const ResultList& list) {
     for (int column = 1; column <= list.ColumnCount(); ++column) {
-        const std::string& header = list.Header(column);
-        if (header == column_title::kModified || header == column_title::kType ||
-            header == column_title::kStatus)
+        const Column content = list.ColumnAt(column);
+        if (content == Column::Modified || content == Column::Type || content == Column::Status)
             page << "td:nth-child(" << column << ") { white-space: nowrap; }\n";
     }
 }

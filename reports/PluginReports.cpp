@@ -75,9 +75,9 @@ void MakeUseKey(std::string& key, const UsedPlugin& plugin,
 void ShowWhereInstalled(ResultList& list, ResultRow row, std::int16_t pathColumn,
                         const UsedPlugin& plugin, std::optional<std::string_view> installedPath) {
     if (!installedPath)
-        list.SetSubItem(row, pathColumn - 1, kNotInstalled);
+        list.SetColumnText(row, pathColumn, kNotInstalled);
     else if (plugin.type == "VST")
-        list.SetSubItem(row, pathColumn - 1, *installedPath);
+        list.SetColumnText(row, pathColumn, *installedPath);
 }
 
 /// Adds a row for each installed plug-in that the settings do not ignore and that `isWanted` says
@@ -99,9 +99,9 @@ void AddInstalledPlugins(ResultPane& pane, std::string_view relativePath,
         if (!row)
             continue;
         if (!ignore.directX)
-            list.SetSubItem(*row, typeColumn - 1, plugin.type);
+            list.SetColumnText(*row, typeColumn, plugin.type);
         if (plugin.type == "VST")
-            list.SetSubItem(*row, pathColumn - 1, plugin.path);
+            list.SetColumnText(*row, pathColumn, plugin.path);
     }
     AddPlaceholderIfEmpty(list, kNoPlugins);
 }
@@ -134,10 +134,10 @@ void ShowUsedPlugins(ResultPane& pane, std::int16_t typeColumn, std::int16_t pat
             if (!row)
                 continue;
             if (!ignore.directX)
-                list.SetSubItem(*row, typeColumn - 1, plugin.type);
+                list.SetColumnText(*row, typeColumn, plugin.type);
             ShowWhereInstalled(list, *row, pathColumn, plugin, installedPath);
             if (!ignore.off)
-                list.SetSubItem(*row, statusColumn - 1, plugin.state);
+                list.SetColumnText(*row, statusColumn, plugin.state);
             if (!installedPath)
                 GreyRow(list, *row);
         }
@@ -180,9 +180,9 @@ void ShowUninstalledPlugins(ResultPane& pane, std::int16_t typeColumn, std::int1
             if (!row)
                 continue;
             if (!ignore.directX)
-                list.SetSubItem(*row, typeColumn - 1, plugin.type);
+                list.SetColumnText(*row, typeColumn, plugin.type);
             if (!ignore.off)
-                list.SetSubItem(*row, statusColumn - 1, plugin.state);
+                list.SetColumnText(*row, statusColumn, plugin.state);
         }
     });
 }

@@ -6,13 +6,11 @@
 
 namespace marlo {
 
-/// The kinds of report, as the commands name them.
-namespace report_kind {
-inline constexpr const char* kUsed = "ShowUsed";
-inline constexpr const char* kUnused = "ShowUnused";
-inline constexpr const char* kAll = "ShowAll";
-inline constexpr const char* kUninstalled = "ShowUninstalled";
-}  // namespace report_kind
+/// The kinds of report.
+enum class ReportKind { Used, Unused, All, Uninstalled };
+
+/// What a kind is called by those who ask for its report, for example "ShowUsed".
+const char* NameOf(ReportKind kind);
 
 /// Shows a report: builds the columns that its kind and the settings call for, lets the report add
 /// its rows (see PluginReports.h), and sorts them by the first column. The next click on any
@@ -21,7 +19,7 @@ inline constexpr const char* kUninstalled = "ShowUninstalled";
 /// A report that fails tells so itself, and what it found is shown. A failure outside of it is
 /// logged under "ShowInstalledPlugins" and told, and leaves the list hidden.
 ///
-/// @param reportKind one of `report_kind`; with any other, the list stays empty.
+/// @param reportKind the name of a kind; with any other text, the list stays empty.
 void ShowInstalledPlugins(ResultPane& pane, const std::string& reportKind);
 
 }  // namespace marlo

@@ -21,21 +21,26 @@ std::size_t CheckedIndex(std::size_t number, std::size_t count) {
 
 }  // namespace
 
-const std::string& ResultList::Header(int column) const {
-    return headers_[CheckedIndex(static_cast<std::size_t>(column), headers_.size())];
+const ResultList::ColumnHeader& ResultList::HeaderAt(int column) const {
+    return columns_[CheckedIndex(static_cast<std::size_t>(column), columns_.size())];
 }
 
-std::int16_t ResultList::AddColumn(const std::string& header) {
-    if (headers_.size() == rowWidth_)
+int ResultList::IndexOf(Column column) const {
+    const auto found = std::ranges::find(columns_, column, &ColumnHeader::column);
+    return found == columns_.end() ? 0 : static_cast<int>(found - columns_.begin()) + 1;
+}
+
+std::int16_t ResultList::AddColumn(Column column, const std::string& header) {
+    if (columns_.size() == rowWidth_)
         WidenRows(rowWidth_ + 1);
-    headers_.push_back(header);
+    columns_.push_back({column, header});
     Touch();
-    return static_cast<std::int16_t>(headers_.size());
+    return static_cast<std::int16_t>(columns_.size());
 }
 
 void ResultList::RemoveColumn(int column) {
-    const std::size_t index = CheckedIndex(static_cast<std::size_t>(column), headers_.size());
-    headers_.erase(headers_.begin() + static_cast<std::ptrdiff_t>(index));
+    const std::size_t index = CheckedIndex(static_cast<std::size_t>(column), columns_.size());
+    columns_.erase(columns_.begin() + static_cast<std::ptrdiff_t>(index));
     Touch();
 }
 
@@ -68,7 +73,7 @@ void ResultList::ClearRows() {
     keys_.Clear();
     icons_.clear();
     cells_.clear();
-    rowWidth_ = std::max<std::size_t>(headers_.size(), 1);
+    rowWidth_ = std::max<std::size_t>(columns_.size(), 1);
     positions_.clear();
     selected_.reset();
     Touch();

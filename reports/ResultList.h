@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/TextTable.h"
+#include "reports/Columns.h"
 
 namespace marlo {
 
@@ -30,10 +31,18 @@ enum class ResultRow : std::uint32_t {};
 /// A routine that runs out of memory leaves the list as it was.
 class ResultList {
   public:
-    int ColumnCount() const { return static_cast<int>(headers_.size()); }
-    const std::string& Header(int column) const;
-    /// @return the new column's index.
-    std::int16_t AddColumn(const std::string& header);
+    int ColumnCount() const { return static_cast<int>(columns_.size()); }
+    const std::string& Header(int column) const { return HeaderAt(column).title; }
+    /// What a column holds.
+    Column ColumnAt(int column) const { return HeaderAt(column).column; }
+    /// The first column that holds something; 0 when there is none.
+    int IndexOf(Column column) const;
+    /// Adds a column under its usual title. @return its index.
+    std::int16_t AddColumn(Column column) { return AddColumn(column, TitleOf(column)); }
+    /// Adds a column under another title.
+    std::int16_t AddColumn(Column column, const std::string& header);
+    /// Adds a column of other texts.
+    std::int16_t AddColumn(const std::string& header) { return AddColumn(Column::Other, header); }
     /// The cells of the rows stay where they are.
     void RemoveColumn(int column);
 
@@ -63,6 +72,10 @@ class ResultList {
     /// The text that stands in a column, whichever it is.
     std::string_view ColumnText(ResultRow row, int column) const {
         return column == 1 ? Text(row) : SubItem(row, column - 1);
+    }
+    /// Sets the text of a column behind the first.
+    void SetColumnText(ResultRow row, int column, std::string_view text) {
+        SetSubItem(row, column - 1, text);
     }
     TextColour SubItemColour(ResultRow row, int subItem) const;
     void SetSubItemColour(ResultRow row, int subItem, TextColour colour);
@@ -104,6 +117,12 @@ class ResultList {
         std::string_view Text() const { return {start, size}; }
     };
 
+    struct ColumnHeader {
+        Column column = Column::Other;
+        std::string title;
+    };
+
+    const ColumnHeader& HeaderAt(int column) const;
     static std::size_t Index(ResultRow row) { return static_cast<std::size_t>(row); }
     std::size_t CheckedSubItem(int subItem) const;
     const Cell& CellOf(ResultRow row, std::size_t column) const;
@@ -114,7 +133,7 @@ class ResultList {
     void Settle() const;
     void PutInOrder() const;
 
-    std::vector<std::string> headers_;
+    std::vector<ColumnHeader> columns_;
     TextTable keys_;  ///< numbered as the rows are; the cells' texts live in its memory
     std::vector<std::uint8_t> icons_;
     std::vector<Cell> cells_;   ///< row by row

@@ -10,7 +10,6 @@
 #include "core/Text.h"
 #include "inventory/InstalledPlugins.h"
 #include "platform/FileSystem.h"
-#include "reports/ColumnTitles.h"
 #include "reports/DateText.h"
 
 namespace marlo {
@@ -29,13 +28,13 @@ struct OptionalColumns {
 
 OptionalColumns AddColumns(ResultList& list, const IgnoreSettings& ignore) {
     OptionalColumns columns;
-    list.AddColumn(column_title::kProject);
-    list.AddColumn(column_title::kModified);
-    list.AddColumn(column_title::kPlugin);
+    list.AddColumn(Column::Project);
+    list.AddColumn(Column::Modified);
+    list.AddColumn(Column::Plugin);
     if (!ignore.directX)
-        columns.type = list.AddColumn(column_title::kType);
+        columns.type = list.AddColumn(Column::Type);
     if (!ignore.off)
-        columns.status = list.AddColumn(column_title::kStatus);
+        columns.status = list.AddColumn(Column::Status);
     return columns;
 }
 
@@ -44,7 +43,7 @@ bool IsHit(RecordReader& line, const SearchPane& search, SearchMatch& match,
            const IgnoreSettings& ignore) {
     if ((ignore.directX && line[2] == "DirectX") || (ignore.off && line[3] == "Off"))
         return false;
-    return match.Matches(line[search.mode == search_mode::kPluginsInProject ? 0 : 1]);
+    return match.Matches(line[search.mode == SearchMode::PluginsInProject ? 0 : 1]);
 }
 
 std::string ModifiedText(const std::string& project) {
@@ -56,10 +55,9 @@ std::string ModifiedText(const std::string& project) {
 
 }  // namespace
 
-std::size_t ReadMatchType(const Application& application) {
-    const double type = LeadingNumber(getSetting(application, setting::kSearchType));
-    const bool isKnown = type >= 0 && type < static_cast<double>(kMatchTypes.size());
-    return isKnown ? static_cast<std::size_t>(type) : 0;
+MatchType ReadMatchType(const Application& application) {
+    return MatchTypeAt(LeadingNumber(getSetting(application, setting::kSearchType)))
+        .value_or(MatchType::Exact);
 }
 
 bool ReadIgnoreCase(const Application& application) {
@@ -85,12 +83,12 @@ void SearchResultFiles(ResultPane& pane, const SearchPane& search, std::int16_t 
             key.assign(project).append(name).append(type).append(state);
             const ResultRow row = list.AddRow(key, project);
             list.SetSmallIcon(row, kRowIcon);
-            list.SetSubItem(row, kModifiedColumn - 1, ModifiedText(project));
-            list.SetSubItem(row, kPluginColumn - 1, name);
+            list.SetColumnText(row, kModifiedColumn, ModifiedText(project));
+            list.SetColumnText(row, kPluginColumn, name);
             if (!ignore.directX)
-                list.SetSubItem(row, typeColumn - 1, type);
+                list.SetColumnText(row, typeColumn, type);
             if (!ignore.off)
-                list.SetSubItem(row, statusColumn - 1, state);
+                list.SetColumnText(row, statusColumn, state);
             if (!installed.PluginIsInstalled(name))
                 GreyRow(list, row);
         }

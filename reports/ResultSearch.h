@@ -1,7 +1,7 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "reports/ResultPane.h"
@@ -9,24 +9,29 @@
 
 namespace marlo {
 
-/// What a search of the result files compares with the search text, as the search button's
-/// caption tells.
-namespace search_mode {
-inline constexpr const char* kProjectsByPlugin = "Search for Projects by Plugin";
-inline constexpr const char* kPluginsInProject = "List Plugins in Project";
-}  // namespace search_mode
+/// What a search of the result files compares with the search text: plug-ins' names or projects.
+enum class SearchMode { ProjectsByPlugin, PluginsInProject };
+
+/// The caption of the command item that chooses the mode.
+constexpr const char* CaptionOf(SearchMode mode) {
+    return mode == SearchMode::ProjectsByPlugin ? "Search for Projects by Plugin"
+                                                : "List Plugins in Project";
+}
 
 /// What the controls of the search pane hold.
 struct SearchPane {
-    std::string mode = search_mode::kProjectsByPlugin;
-    std::string txtSearchText;  ///< a field, as typed
-    std::string cboSearchType = match_type::kExact;
+    SearchMode mode = SearchMode::ProjectsByPlugin;
+    std::string txtSearchText;                                  ///< a field, as typed
+    std::optional<MatchType> cboSearchType = MatchType::Exact;  ///< nothing when none is picked
     bool chkIgnoreCase = false;
+
+    /// What a search shows, for a heading: a field.
+    std::string Title() const { return std::string(CaptionOf(mode)) + ": " + txtSearchText; }
 };
 
-/// The match type that the settings hold, as a position in `kMatchTypes`; the first one when they
-/// hold none, or one that is not there.
-std::size_t ReadMatchType(const Application& application);
+/// The match type that the settings hold; the first one when they hold none, or one that is not
+/// there.
+MatchType ReadMatchType(const Application& application);
 
 /// Whether the settings hold that searches ignore case.
 bool ReadIgnoreCase(const Application& application);

@@ -17,31 +17,28 @@ bool IsAscii(std::string_view text) {
 
 }  // namespace
 
-SearchMatch::SearchMatch(std::string_view matchType, std::string_view searchText, bool ignoreCase)
-    : kind_(KindOf(matchType)), ignoreCase_(ignoreCase), searchText_(Comparable(searchText)) {}
-
-SearchMatch::Kind SearchMatch::KindOf(std::string_view matchType) {
-    if (matchType == match_type::kExact)
-        return Kind::Exact;
-    if (matchType == match_type::kStartsWith)
-        return Kind::StartsWith;
-    if (matchType == match_type::kEndsWith)
-        return Kind::EndsWith;
-    return matchType == match_type::kContains ? Kind::Contains : Kind::Never;
+std::optional<MatchType> MatchTypeAt(double position) {
+    if (position < 0 || position >= static_cast<double>(kMatchTypes.size()))
+        return std::nullopt;
+    return static_cast<MatchType>(position);
 }
+
+SearchMatch::SearchMatch(std::optional<MatchType> matchType, std::string_view searchText,
+                         bool ignoreCase)
+    : matchType_(matchType), ignoreCase_(ignoreCase), searchText_(Comparable(searchText)) {}
 
 bool SearchMatch::Matches(std::string_view field) {
     const std::string_view value = Comparable(field);
-    if (kind_ == Kind::Exact)
+    if (matchType_ == MatchType::Exact)
         return value == searchText_;
-    if (value.empty() || kind_ == Kind::Never)
+    if (value.empty() || !matchType_)
         return false;
-    if (kind_ == Kind::StartsWith)
+    if (matchType_ == MatchType::StartsWith)
         return value.starts_with(searchText_);
     const std::size_t position = value.find(searchText_);
     if (position == std::string_view::npos)
         return false;
-    return kind_ == Kind::Contains || position + searchText_.size() == value.size();
+    return matchType_ == MatchType::Contains || position + searchText_.size() == value.size();
 }
 
 /// A field as it is compared: as UTF-8, whose bytes tell two texts apart as their characters do.

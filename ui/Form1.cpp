@@ -179,9 +179,9 @@ void Form1::ShowHelp() {
 }
 
 void Form1::ToggleSearchMode() {
-    std::string& caption = state_.cmdbuttons.at(kSearchModeItem).caption;
-    caption = caption == search_mode::kProjectsByPlugin ? search_mode::kPluginsInProject
-                                                        : search_mode::kProjectsByPlugin;
+    searchMode_ = searchMode_ == SearchMode::ProjectsByPlugin ? SearchMode::PluginsInProject
+                                                              : SearchMode::ProjectsByPlugin;
+    state_.cmdbuttons.at(kSearchModeItem).caption = CaptionOf(searchMode_);
     view_.Show(state_);
 }
 
@@ -204,17 +204,16 @@ void Form1::btnDonate_Click() {
 }
 
 SearchPane Form1::CurrentSearch() const {
-    const auto type = static_cast<std::size_t>(view_.SearchType());
-    return {.mode = state_.cmdbuttons.at(kSearchModeItem).caption,
+    return {.mode = searchMode_,
             .txtSearchText = view_.SearchText(),
-            .cboSearchType = type < kMatchTypes.size() ? kMatchTypes.at(type) : "",
+            .cboSearchType = MatchTypeAt(view_.SearchType()),
             .chkIgnoreCase = view_.IgnoreCase()};
 }
 
 void Form1::cmdFind_Click() {
     const SearchPane search = CurrentSearch();
     marlo::cmdFind_Click(pane_, search);
-    listTitle_ = search.mode + ": " + search.txtSearchText;
+    listTitle_ = search.Title();
     view_.ShowList();
 }
 

@@ -112,6 +112,7 @@ class Form1 final : public MainWindow {
     FormLayout layout_;
     ResultPane pane_;
     SearchLists lists_;
+    SearchMode searchMode_ = SearchMode::ProjectsByPlugin;
     std::string cancelTag_;
     std::string listTitle_;
     std::int32_t donateCountdown_ = 0;  ///< seconds

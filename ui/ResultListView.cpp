@@ -5,7 +5,6 @@
 
 #include "core/Text.h"
 #include "platform/FileSystem.h"
-#include "reports/ColumnTitles.h"
 #include "reports/DateText.h"
 
 namespace marlo {
@@ -47,7 +46,7 @@ void lstSongs_ColumnClick(ResultPane& pane, int column) {
     RunGuarded(pane.application, "lstSongs_ColumnClick", [&] {
         ResultList& list = pane.lstSongs;
         list.SetSortKey(column - 1);
-        const bool isDate = list.Header(column) == column_title::kModified;
+        const bool isDate = list.ColumnAt(column) == Column::Modified;
         if (isDate)
             FormatDateColumn(pane);
         if (column == pane.lastSortColumn || pane.lastSortColumn == -1)
@@ -72,11 +71,11 @@ void lstSongs_DblClick(ResultPane& pane) {
     RunGuarded(pane.application, "lstSongs_dblClick", [&] {
         const ResultList& list = pane.lstSongs;
         for (int column = 1; column <= list.ColumnCount(); ++column) {
-            const std::string& header = list.Header(column);
-            if (header == column_title::kPath)
+            // A path in the first column, which no report has, is refused as one without sub-item.
+            if (list.ColumnAt(column) == Column::Path)
                 return OpenFolderOf(
                     pane, std::string(TrimSpaces(list.SubItem(list.SelectedRow(), column - 1))));
-            if (header == column_title::kProject)
+            if (list.ColumnAt(column) == Column::Project)
                 return Open(pane, {.file = std::string(list.Text(list.SelectedRow()))});
         }
     });

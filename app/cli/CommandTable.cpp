@@ -6,8 +6,6 @@
 #include <vector>
 
 #include "platform/Machine.h"
-#include "reports/ReportView.h"
-#include "reports/SearchMatch.h"
 
 namespace marlo::cli {
 
@@ -101,16 +99,16 @@ constexpr Named<ListFormat> kListFormats[] = {{"table", ListFormat::Table},
                                               {"paths", ListFormat::Paths}};
 constexpr Named<Colours> kColours[] = {
     {"auto", Colours::Auto}, {"always", Colours::Always}, {"never", Colours::Never}};
-constexpr Named<const char*> kReports[] = {{"used", report_kind::kUsed},
-                                           {"unused", report_kind::kUnused},
-                                           {"installed", report_kind::kAll},
-                                           {"uninstalled", report_kind::kUninstalled}};
+constexpr Named<ReportKind> kReports[] = {{"used", ReportKind::Used},
+                                          {"unused", ReportKind::Unused},
+                                          {"installed", ReportKind::All},
+                                          {"uninstalled", ReportKind::Uninstalled}};
 constexpr Named<FindOptions::Where> kWhere[] = {{"plugins", FindOptions::Where::Plugins},
                                                 {"projects", FindOptions::Where::Projects}};
-constexpr Named<const char*> kMatches[] = {{"exact", match_type::kExact},
-                                           {"starts", match_type::kStartsWith},
-                                           {"ends", match_type::kEndsWith},
-                                           {"contains", match_type::kContains}};
+constexpr Named<MatchType> kMatches[] = {{"exact", MatchType::Exact},
+                                         {"starts", MatchType::StartsWith},
+                                         {"ends", MatchType::EndsWith},
+                                         {"contains", MatchType::Contains}};
 constexpr Named<bool> kOnOff[] = {{"on", true}, {"off", false}};
 constexpr Named<Shell> kShells[] = {
     {"bash", Shell::Bash}, {"zsh", Shell::Zsh}, {"fish", Shell::Fish}};

@@ -7,6 +7,8 @@
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "platform/Registry.h"
+#include "reports/ReportView.h"
+#include "reports/SearchMatch.h"
 
 namespace marlo::cli {
 
@@ -74,7 +76,7 @@ struct InstalledOptions {
 int RunInstalled(const Environment& environment, const InstalledOptions& options);
 
 struct ReportOptions {
-    std::string kind;  ///< as `ShowInstalledPlugins` takes it
+    ReportKind kind = ReportKind::Used;
     ListFormat format = ListFormat::Table;
     bool endsWithNull = false;  ///< each path ends with a NUL byte, not with a line feed
     Colours colours = Colours::AsUsual;
@@ -90,9 +92,9 @@ struct FindOptions {
     enum class Where { Plugins, Projects };
 
     std::string text;
-    Where where = Where::Plugins;          ///< in whose names the text is looked for
-    std::optional<std::string> matchType;  ///< nothing: the one that was chosen last
-    std::optional<bool> ignoreCase;        ///< nothing: the same
+    Where where = Where::Plugins;        ///< in whose names the text is looked for
+    std::optional<MatchType> matchType;  ///< nothing: the one that was chosen last
+    std::optional<bool> ignoreCase;      ///< nothing: the same
     ListFormat format = ListFormat::Table;
     bool endsWithNull = false;  ///< as in `ReportOptions`
     Colours colours = Colours::AsUsual;

@@ -12,16 +12,14 @@ int RunFind(const Environment& environment, const FindOptions& options) {
     TerminalWindow window(ProgressStyle::None);
     const Application application = ApplicationOf(environment, window);
     const SearchPane search{
-        .mode = options.where == FindOptions::Where::Projects ? search_mode::kPluginsInProject
-                                                              : search_mode::kProjectsByPlugin,
+        .mode = options.where == FindOptions::Where::Projects ? SearchMode::PluginsInProject
+                                                              : SearchMode::ProjectsByPlugin,
         .txtSearchText = options.text,
-        .cboSearchType =
-            options.matchType ? *options.matchType : kMatchTypes.at(ReadMatchType(application)),
+        .cboSearchType = options.matchType ? options.matchType : ReadMatchType(application),
         .chkIgnoreCase = options.ignoreCase ? *options.ignoreCase : ReadIgnoreCase(application)};
     ResultPane pane{application, window};
     cmdFind_Click(pane, search);
-    PrintList(pane, search.mode + ": " + search.txtSearchText,
-              {options.format, options.endsWithNull, options.colours});
+    PrintList(pane, search.Title(), {options.format, options.endsWithNull, options.colours});
     return FinishOutput(window.SawFailure() ? kFailed : kDone);
 }
 

@@ -1,5 +1,6 @@
 #include "app/cli/ListOutput.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <string_view>
@@ -11,7 +12,6 @@
 #include "app/cli/Table.h"
 #include "app/cli/TerminalText.h"
 #include "platform/Terminal.h"
-#include "reports/ColumnTitles.h"
 #include "reports/ListPage.h"
 #include "reports/PluginReports.h"
 
@@ -20,18 +20,24 @@ namespace marlo::cli {
 namespace {
 
 /// What a column is called in JSON, whatever report it belongs to.
-std::string JsonName(const std::string& header, int column) {
-    if (header == column_title::kProject)
-        return "project";
-    if (header == column_title::kModified)
-        return "modified";
-    if (header == column_title::kType)
-        return "type";
-    if (header == column_title::kPath)
-        return "path";
-    if (header == column_title::kStatus)
-        return "state";
-    return column == 1 || header == column_title::kPlugin ? "plugin" : header;
+const char* JsonName(Column column) {
+    switch (column) {
+        case Column::Project:
+            return "project";
+        case Column::Modified:
+            return "modified";
+        case Column::Plugin:
+            return "plugin";
+        case Column::Type:
+            return "type";
+        case Column::Path:
+            return "path";
+        case Column::Status:
+            return "state";
+        case Column::Other:
+            break;
+    }
+    return "";
 }
 
 std::vector<std::string> CellsOf(const ResultList& list, ResultRow row) {
@@ -84,15 +90,13 @@ void PrintTable(const ResultList& list, Colours colours) {
 }
 
 void PrintJson(const ResultList& list) {
-    const std::vector<std::string> headers = HeadersOf(list);
     JsonList rows(std::cout);
     const std::size_t count = HoldsPlaceholder(list) ? 0 : list.RowCount();
     for (std::size_t position = 1; position <= count; ++position) {
         const ResultRow row = list.RowAt(position);
-        const std::vector<std::string> cells = CellsOf(list, row);
         rows.BeginObject();
-        for (std::size_t i = 0; i < cells.size(); ++i)
-            rows.AddText(JsonName(headers[i], static_cast<int>(i) + 1), cells[i]);
+        for (int column = 1; column <= list.ColumnCount(); ++column)
+            rows.AddText(JsonName(list.ColumnAt(column)), list.ColumnText(row, column));
         rows.AddFlag("greyed", IsGreyed(list, row));
     }
     rows.End();
@@ -121,17 +125,8 @@ void PrintHtml(const ResultPane& pane, const std::string& title) {
     std::cout << (platform::IsTerminal(platform::Stream::Out) ? PrintableLines(page) : page);
 }
 
-/// The column that holds the paths of projects or libraries, 1-based; 0 where there is none.
-int PathColumn(const ResultList& list) {
-    for (int column = 1; column <= list.ColumnCount(); ++column)
-        if (const std::string& header = list.Header(column);
-            header == column_title::kProject || header == column_title::kPath)
-            return column;
-    return 0;
-}
-
 void PrintPaths(const ResultList& list, bool endsWithNull) {
-    const int column = PathColumn(list);
+    const int column = std::max(list.IndexOf(Column::Project), list.IndexOf(Column::Path));
     if (column == 0 || HoldsPlaceholder(list))
         return;
     const bool isForPerson = platform::IsTerminal(platform::Stream::Out);

@@ -2,7 +2,6 @@
 #include "app/cli/Commands.h"
 #include "app/cli/ListOutput.h"
 #include "app/cli/TerminalWindow.h"
-#include "reports/ReportView.h"
 
 namespace marlo::cli {
 
@@ -15,13 +14,13 @@ constexpr const char* kCommand = "report";
 int RunReport(const Environment& environment, const ReportOptions& options) {
     if (options.endsWithNull && options.format != ListFormat::Paths)
         return ComplainOfNull(kCommand);
-    if (options.kind == report_kind::kUninstalled && options.format == ListFormat::Paths)
+    if (options.kind == ReportKind::Uninstalled && options.format == ListFormat::Paths)
         return Complain(kCommand, kWrongUsage,
                         "plug-ins that are not installed have no paths to print");
     TerminalWindow window(ProgressStyle::None);
     const Application application = ApplicationOf(environment, window);
     ResultPane pane{application, window};
-    ShowInstalledPlugins(pane, options.kind);
+    ShowInstalledPlugins(pane, NameOf(options.kind));
     const bool hasColumns = pane.lstSongs.ColumnCount() > 0;
     PrintList(pane, hasColumns ? pane.lstSongs.Header(1) : "",
               {options.format, options.endsWithNull, options.colours});

@@ -26,7 +26,7 @@ TEST_F(ReportCommandOutOfMemoryTest, NothingButMemoryIsEverMissing) {
     for (std::size_t number = 1; !isDone; ++number) {
         const test::FailingNthAllocation failing(number);
         try {
-            RunReport(environment, {.kind = report_kind::kAll, .format = ListFormat::Csv});
+            RunReport(environment, {.kind = ReportKind::All, .format = ListFormat::Csv});
         } catch (const std::bad_alloc&) {
             ++failures;  // the program would say so
         } catch (...) {

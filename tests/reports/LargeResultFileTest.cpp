@@ -29,9 +29,9 @@ TEST_F(LargeResultFileTest, ASearchThrough64MegabytesTakesLessThan16MiB) {
         file << Quoted(project) << ",\"Delay\",\"VST    \",\"On\"\r\n";
     }
     const std::size_t taken = test::MemoryTakenBy([&] {
-        cmdFind_Click(pane, {.mode = search_mode::kProjectsByPlugin,
+        cmdFind_Click(pane, {.mode = SearchMode::ProjectsByPlugin,
                              .txtSearchText = "Delay",
-                             .cboSearchType = match_type::kContains,
+                             .cboSearchType = MatchType::Contains,
                              .chkIgnoreCase = false});
     });
     EXPECT_LT(taken, std::size_t{16} * 1024 * 1024);

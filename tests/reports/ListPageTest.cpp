@@ -13,8 +13,8 @@ namespace {
 class ListPageTest : public testing::Test {
   protected:
     ListPageTest() {
-        list.AddColumn("Used Plugins");
-        list.AddColumn("Type");
+        list.AddColumn(Column::Plugin, "Used Plugins");
+        list.AddColumn(Column::Type);
     }
 
     ResultRow Add(const std::string& name, const std::string& type) {

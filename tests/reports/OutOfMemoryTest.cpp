@@ -46,21 +46,21 @@ class ReportOutOfMemoryTest : public test::ReportTest {
 };
 
 TEST_F(ReportOutOfMemoryTest, AListStaysWholeAndTheNextReportIsComplete) {
-    for (const char* kind :
-         {report_kind::kUsed, report_kind::kUnused, report_kind::kAll, report_kind::kUninstalled}) {
-        ShowInstalledPlugins(pane, kind);
+    for (const ReportKind kind :
+         {ReportKind::Used, ReportKind::Unused, ReportKind::All, ReportKind::Uninstalled}) {
+        ShowInstalledPlugins(pane, NameOf(kind));
         const auto expected = Rows();
         const std::size_t failures = test::FailEach(test::Failing::One, [&] {
             ResultPane fresh{application, window};
-            ShowInstalledPlugins(fresh, kind);
+            ShowInstalledPlugins(fresh, NameOf(kind));
             if (!test::FailingNthAllocation::HasFailed())
                 return;
             for (const std::string& name : test::NamesOf(fresh.lstSongs))
                 EXPECT_FALSE(name.empty());
-            ShowInstalledPlugins(fresh, kind);
+            ShowInstalledPlugins(fresh, NameOf(kind));
             EXPECT_EQ(test::RowsOf(fresh.lstSongs), expected);
         });
-        EXPECT_GT(failures, 20U) << kind;
+        EXPECT_GT(failures, 20U) << NameOf(kind);
     }
 }
 

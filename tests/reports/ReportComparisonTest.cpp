@@ -42,6 +42,11 @@ class ReportComparisonTest : public test::ReportTest {
 
     std::string PickOne(const Texts& texts) { return texts[Pick(texts.size())]; }
 
+    template <class Value>
+    Value PickAny(const std::vector<Value>& values) {
+        return values[Pick(values.size())];
+    }
+
     /// A field, mostly in quotes.
     std::string Field(const Texts& values) {
         std::string value = PickOne(values);
@@ -201,11 +206,13 @@ TEST_F(ReportComparisonTest, TheUninstalledPluginsAreThoseOfThePlainReport) {
 TEST_F(ReportComparisonTest, TheSearchFindsWhatThePlainSearchFinds) {
     SearchPane search;
     const auto own = [&](const Columns& c) {
-        search.cboSearchType =
-            PickOne({"Exact match", "Starts with", "Ends with", "Contains", "Contains", "other"});
+        search.cboSearchType = PickAny<std::optional<MatchType>>(
+            {MatchType::Exact, MatchType::StartsWith, MatchType::EndsWith, MatchType::Contains,
+             MatchType::Contains, std::nullopt});
         search.txtSearchText = PickOne({"", "A", "V", "ST", ".cpr", "a.cpr", "é", "\xE9verb"});
         search.chkIgnoreCase = Pick(2) == 0;
-        search.mode = PickOne({search_mode::kProjectsByPlugin, search_mode::kPluginsInProject});
+        search.mode =
+            PickAny<SearchMode>({SearchMode::ProjectsByPlugin, SearchMode::PluginsInProject});
         SearchResultFiles(pane, search, Short(c[0]), Short(c[2]));
     };
     Compare(own, [&](LiteralReports& reports, const Columns& c) {

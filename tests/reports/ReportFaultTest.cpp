@@ -28,9 +28,9 @@ class ReportFaultTest : public test::ReportTest {
     }
 
     void Find() {
-        cmdFind_Click(pane, {.mode = search_mode::kProjectsByPlugin,
+        cmdFind_Click(pane, {.mode = SearchMode::ProjectsByPlugin,
                              .txtSearchText = "Reverb",
-                             .cboSearchType = match_type::kContains,
+                             .cboSearchType = MatchType::Contains,
                              .chkIgnoreCase = false});
     }
 };
@@ -39,9 +39,9 @@ TEST_F(ReportFaultTest, AnUnreadableFileOfUsesIsLoggedAndToldInEachReportOfThem)
     const test::UnreadableFile unreadable(folder.Path("resultfiles/tln.csv"));
     std::string log;
     for (const auto& [report, procedure] :
-         {std::pair(report_kind::kUsed, "ShowUsedPlugins"),
-          std::pair(report_kind::kUnused, "ShowUnusedPlugins"),
-          std::pair(report_kind::kUninstalled, "ShowUnusedPlugins")}) {
+         {std::pair(NameOf(ReportKind::Used), "ShowUsedPlugins"),
+          std::pair(NameOf(ReportKind::Unused), "ShowUnusedPlugins"),
+          std::pair(NameOf(ReportKind::Uninstalled), "ShowUnusedPlugins")}) {
         window.messages.clear();
         ShowInstalledPlugins(pane, report);
         log += LogLine(procedure, 70, "Permission denied");
@@ -53,7 +53,7 @@ TEST_F(ReportFaultTest, AnUnreadableFileOfUsesIsLoggedAndToldInEachReportOfThem)
 
 TEST_F(ReportFaultTest, AnUnreadableListOfInstalledPluginsIsLoggedAndTold) {
     const test::UnreadableFile unreadable(folder.Path("resultfiles/installedplugins.csv"));
-    ShowInstalledPlugins(pane, report_kind::kAll);
+    ShowInstalledPlugins(pane, NameOf(ReportKind::All));
     EXPECT_EQ(Log(), LogLine("ShowAllPlugins", 70, "Permission denied"));
     EXPECT_EQ(window.MessageTexts(), kUnexpected);
     EXPECT_EQ(Names(), Texts{});
@@ -72,7 +72,7 @@ TEST_F(ReportFaultTest, AFileInTheResultFoldersPlaceIsToldAndStays) {
     folder.Write("resultfiles", "a file");
     Texts logged;
     application.onErrorLogged = [&](const ErrorEntry& entry) { logged.push_back(entry.procedure); };
-    ShowInstalledPlugins(pane, report_kind::kUsed);
+    ShowInstalledPlugins(pane, NameOf(ReportKind::Used));
     Find();
     EXPECT_EQ(logged, (Texts{"ShowUsedPlugins", "SearchResultFiles"}));
     EXPECT_EQ(window.messages.size(), 2U);
@@ -81,7 +81,7 @@ TEST_F(ReportFaultTest, AFileInTheResultFoldersPlaceIsToldAndStays) {
 
 TEST_F(ReportFaultTest, ALineEndInANameMakesTwoRowsOfItsRecordAndIsLogged) {
     WriteUsed({{"a\r\nb", "VST", "On"}});
-    ShowInstalledPlugins(pane, report_kind::kUninstalled);
+    ShowInstalledPlugins(pane, NameOf(ReportKind::Uninstalled));
     EXPECT_EQ(Names(), (Texts{"", "b"}));
     EXPECT_EQ(Log(), LogLine("SplitRecord: \"a 3", 5, "Invalid procedure call"));
     EXPECT_TRUE(window.messages.empty());
@@ -90,7 +90,7 @@ TEST_F(ReportFaultTest, ALineEndInANameMakesTwoRowsOfItsRecordAndIsLogged) {
 TEST_F(ReportFaultTest, ANulInANameIsShown) {
     const std::string name("a\0b", 3);
     WriteUsed({{name, "VST", "On"}});
-    ShowInstalledPlugins(pane, report_kind::kUninstalled);
+    ShowInstalledPlugins(pane, NameOf(ReportKind::Uninstalled));
     EXPECT_EQ(Names(), Texts{name});
     EXPECT_EQ(Log(), "");
 }
@@ -99,7 +99,7 @@ TEST_F(ReportFaultTest, ANameOf10MegabytesIsWholeInItsRow) {
     std::string name;
     name.resize(10'000'000, 'n');
     WriteUsed({{name, "VST", "On"}, {"Reverb", "VST", "On"}});
-    ShowInstalledPlugins(pane, report_kind::kUsed);
+    ShowInstalledPlugins(pane, NameOf(ReportKind::Used));
     ASSERT_EQ(pane.lstSongs.RowCount(), 2U);
     const test::ShownRows rows = Rows();
     // Not compared by EXPECT_EQ, which would print it.

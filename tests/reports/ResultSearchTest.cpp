@@ -25,7 +25,7 @@ class ResultSearchTest : public test::ReportTest {
     ResultSearchTest() {
         test::SetVariable("TZ", "UTC0");
         WriteInstalled({{"VST", "Reverb", "/vst/Reverb.dll"}});
-        search.cboSearchType = "Contains";
+        search.cboSearchType = MatchType::Contains;
     }
 
     /// Makes a project file that was changed at `kDate`. @return its path.
@@ -69,7 +69,7 @@ TEST_F(ResultSearchTest, APluginThatIsNotInstalledIsGreyedInBothModes) {
     const ShownRows expected = {{{project, kDate, "Reverb", "VST", "On"}},
                                 {{project, kDate, "reverb", "VST", "On"}, true}};
     EXPECT_EQ(Find("everb"), expected);
-    search.mode = search_mode::kPluginsInProject;
+    search.mode = SearchMode::PluginsInProject;
     EXPECT_EQ(Find("a.cpr"), expected);
 }
 
@@ -77,7 +77,7 @@ TEST_F(ResultSearchTest, TheModeTellsWhatIsCompared) {
     WriteUses(
         {{Project("Verb.cpr"), "Delay", "VST", "On"}, {Project("b.cpr"), "Reverb", "VST", "On"}});
     EXPECT_EQ(FindNames("erb"), Texts{"Reverb"});
-    search.mode = "List Plugins in Project";
+    search.mode = SearchMode::PluginsInProject;
     EXPECT_EQ(FindNames("erb"), Texts{"Delay"});
 }
 
@@ -94,7 +94,7 @@ TEST_F(ResultSearchTest, StartsWithAnEmptyTextListsEveryLineThatTheSettingsLetTh
                {project, "B", "DirectX", "On"},
                {project, "C", "VST", "Off"},
                {project, "", "VST", "On"}});
-    search.cboSearchType = "Starts with";
+    search.cboSearchType = MatchType::StartsWith;
     EXPECT_EQ(FindNames(""), (Texts{"A", "B", "C"}));
     IgnoreDirectX();
     IgnoreOff();
@@ -104,7 +104,7 @@ TEST_F(ResultSearchTest, StartsWithAnEmptyTextListsEveryLineThatTheSettingsLetTh
 TEST_F(ResultSearchTest, ExactlyAnEmptyTextListsOnlyEmptyFields) {
     const std::string project = Project("a.cpr");
     WriteUses({{project, "A", "VST", "On"}, {project, "", "VST", "On"}});
-    search.cboSearchType = "Exact match";
+    search.cboSearchType = MatchType::Exact;
     EXPECT_EQ(Find("").front().cells, (Texts{project, kDate, "", "VST", "On"}));
     EXPECT_EQ(pane.lstSongs.RowCount(), 1U);
 }

@@ -231,16 +231,16 @@ void LiteralReports::SearchResultFiles(const SearchPane& search, int typeColumn,
             if (ignoreDirectX && use[2] == "DirectX")
                 continue;
             const std::u32string value =
-                comparable(search.mode == "List Plugins in Project" ? use[0] : use[1]);
+                comparable(search.mode == SearchMode::PluginsInProject ? use[0] : use[1]);
             if (use[3] == "Off" && ignoreOff)
                 continue;
             // Counted from 1, and 0 for nowhere.
             const std::size_t position = value.empty() ? 0 : value.find(text) + 1;
-            const bool matches = (search.cboSearchType == "Exact match" && value == text) ||
-                                 (search.cboSearchType == "Starts with" && position == 1) ||
-                                 (search.cboSearchType == "Ends with" && position != 0 &&
+            const bool matches = (search.cboSearchType == MatchType::Exact && value == text) ||
+                                 (search.cboSearchType == MatchType::StartsWith && position == 1) ||
+                                 (search.cboSearchType == MatchType::EndsWith && position != 0 &&
                                   position + text.size() - 1 == value.size()) ||
-                                 (search.cboSearchType == "Contains" && position != 0);
+                                 (search.cboSearchType == MatchType::Contains && position != 0);
             if (!matches)
                 continue;
             LiteralRow& row = Add(Joined({use[0], use[1], use[2], use[3]}), use[0]);

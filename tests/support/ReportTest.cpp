@@ -1,5 +1,6 @@
 #include "tests/support/ReportTest.h"
 
+#include <algorithm>
 #include <ostream>
 
 namespace marlo::test {
@@ -55,8 +56,12 @@ void ReportTest::WriteRecords(const std::string& name, const std::vector<Texts>&
 }
 
 void ReportTest::AddColumns(const Texts& headers) {
-    for (const std::string& header : headers)
-        pane.lstSongs.AddColumn(header);
+    for (const std::string& header : headers) {
+        const auto* const found = std::ranges::find(kColumnTitles, header);
+        const bool isKnown = found != kColumnTitles.end();
+        const auto column = static_cast<Column>(found - kColumnTitles.begin());
+        pane.lstSongs.AddColumn(isKnown ? column : Column::Plugin, header);
+    }
 }
 
 }  // namespace marlo::test

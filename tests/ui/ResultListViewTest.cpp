@@ -41,7 +41,7 @@ class ColumnClickTest : public test::ReportTest {
     /// Makes a list as a report leaves it.
     void ShowReport() {
         WriteInstalled({{"VST", "b", "/1"}, {"VST", "a", "/2"}, {"VST", "c", "/3"}});
-        ShowInstalledPlugins(pane, report_kind::kAll);
+        ShowInstalledPlugins(pane, NameOf(ReportKind::All));
     }
 
     void Click(int column) { lstSongs_ColumnClick(pane, column); }

@@ -38,7 +38,7 @@ using AnyPathToXargsTest = test::ApplicationTest;
 TEST_F(AnyPathToXargsTest, LineFeedsAndQuotesComeThrough) {
     cli::TerminalWindow window(cli::ProgressStyle::None);
     ResultPane pane{application, window};
-    pane.lstSongs.AddColumn(column_title::kProject);
+    pane.lstSongs.AddColumn(Column::Project);
     const std::vector<std::string> paths = {"/a b/c\nd.cpr", "/\"q\" 'r'.cpr", "/\xE9\\.cpr"};
     std::string expected;
     for (const std::string& path : paths) {
