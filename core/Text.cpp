@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/AnsiCodePage.h"
+#include "platform/Ascii.h"
 
 namespace marlo {
 
@@ -68,7 +69,7 @@ std::string UpperCaseUtf8(std::string_view field) {
     bool isAscii = true;
     for (char& c : upper) {
         isAscii = isAscii && static_cast<unsigned char>(c) < 0x80;
-        c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+        c = platform::UpperAscii(c);
     }
     return isAscii ? upper : EncodeUtf8(UpperCase(Decode(field)));
 }

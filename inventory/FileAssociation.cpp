@@ -9,6 +9,7 @@
 #include "core/ErrorLog.h"
 #include "core/Settings.h"
 #include "inventory/ReadRegistry.h"
+#include "platform/Ascii.h"
 
 namespace marlo {
 
@@ -34,11 +35,7 @@ std::optional<std::string> ExpandFirstVariable(const std::string& command) {
 /// The program of a command, without the arguments behind it.
 std::string ProgramIn(const std::string& command) {
     constexpr std::string_view ending = ".EXE";
-    std::string upper = command;
-    std::transform(upper.begin(), upper.end(), upper.begin(), [](char c) {
-        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    });
-    const std::size_t found = upper.find(ending);
+    const std::size_t found = platform::UpperAscii(command).find(ending);
     std::string program = command.substr(0, found == std::string::npos ? 3 : found + ending.size());
     program.erase(std::remove(program.begin(), program.end(), '"'), program.end());
     return program;

@@ -35,10 +35,9 @@ std::optional<char32_t> TakeWhole(std::string_view& text) {
         return std::nullopt;
     char32_t code = form->leadBits;
     for (std::size_t i = 1; i < form->length; ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if ((byte & 0xC0U) != 0x80)
+        if (!ContinuesCharacter(text[i]))
             return std::nullopt;
-        code = (code << 6U) | (byte & 0x3FU);
+        code = (code << 6U) | (static_cast<unsigned char>(text[i]) & 0x3FU);
     }
     if (code < form->smallestCode || !IsScalarValue(code))
         return std::nullopt;

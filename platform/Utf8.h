@@ -6,6 +6,11 @@
 
 namespace marlo::platform {
 
+/// Whether a byte of UTF-8 continues a character rather than beginning one.
+constexpr bool ContinuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
 /// The characters of a text; nothing when it is not UTF-8. Forms that are longer than needed and
 /// halves of surrogate pairs are not.
 std::optional<std::u32string> DecodeUtf8(std::string_view text);

@@ -52,7 +52,7 @@ class Splitter {
     std::string Take(std::size_t count) {
         std::size_t end = 0;
         for (; count > 0 && end < rest_.size(); --count)
-            for (++end; end < rest_.size() && ContinuesCharacter(rest_[end]);)
+            for (++end; end < rest_.size() && platform::ContinuesCharacter(rest_[end]);)
                 ++end;
         std::string taken(rest_.substr(0, end));
         rest_.remove_prefix(end);
@@ -60,10 +60,6 @@ class Splitter {
     }
 
   private:
-    static bool ContinuesCharacter(char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
-    }
-
     std::string_view rest_;
 };
 

@@ -6,20 +6,13 @@
 
 namespace marlo {
 
-namespace {
-
-bool ContinuesCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
-
-}  // namespace
-
 std::string_view ShownPart(std::string_view field) {
     if (field.size() <= kMostCellLength)
         return field;
     constexpr std::size_t longestCharacter = 4;
     std::size_t length = kMostCellLength;
-    while (length > kMostCellLength - longestCharacter && ContinuesCharacter(field[length]))
+    while (length > kMostCellLength - longestCharacter &&
+           platform::ContinuesCharacter(field[length]))
         --length;
     return field.substr(0, length);
 }

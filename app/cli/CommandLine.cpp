@@ -75,17 +75,13 @@ class CommandLine {
     void AddCommand(CLI::App& parent, const Command& command) {
         auto* const added =
             parent.add_subcommand(std::string(command.name), std::string(command.help));
-        // What the command takes is added once it is given: to add the options of all commands
-        // would take as long as all else at the program's start.
-        added->preparse_callback([this, added, &command](std::size_t) {
-            for (const Argument& argument : SharedArguments())
-                if (argument.value.kind == ValueKind::Version)
-                    AddArgument(*added, argument);
-            for (const Argument& argument : command.arguments)
-                if (argument.IsOffered())
-                    AddArgument(*added, argument);
-            AddCommands(*added, command.name);
-        });
+        for (const Argument& argument : SharedArguments())
+            if (argument.value.kind == ValueKind::Version)
+                AddArgument(*added, argument);
+        for (const Argument& argument : command.arguments)
+            if (argument.IsOffered())
+                AddArgument(*added, argument);
+        AddCommands(*added, command.name);
         // A command is called back after its own subcommand was.
         added->callback([this, added, &command] {
             if (added->get_subcommands().empty())

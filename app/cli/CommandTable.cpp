@@ -5,6 +5,7 @@
 #include <iterator>
 #include <vector>
 
+#include "app/StartOptions.h"
 #include "platform/Machine.h"
 
 namespace marlo::cli {
@@ -141,19 +142,17 @@ constexpr Argument kColour{
 
 // The arguments of each command.
 
-constexpr Argument kShared[] = {
-    {.name = "--help",
-     .shortName = "-h",
-     .help = "Print this help message and exit",
-     .value = {.kind = ValueKind::Help}},
-    {.name = "--version",
-     .help = "Display program version information and exit",
-     .value = {.kind = ValueKind::Version}},
-    {.name = "--app-folder",
-     .valueName = "DIR",
-     .help = "The application folder, with settings.ini and resultfiles in it (default: the "
-             "program's own folder; for an installed program ~/.local/share/marlo)",
-     .value = Folder<&SharedOptions::applicationFolder>}};
+constexpr Argument kShared[] = {{.name = "--help",
+                                 .shortName = "-h",
+                                 .help = "Print this help message and exit",
+                                 .value = {.kind = ValueKind::Help}},
+                                {.name = "--version",
+                                 .help = "Display program version information and exit",
+                                 .value = {.kind = ValueKind::Version}},
+                                {.name = kAppFolderOption.name,
+                                 .valueName = kAppFolderOption.valueName,
+                                 .help = kAppFolderOption.help,
+                                 .value = Folder<&SharedOptions::applicationFolder>}};
 
 constexpr Argument kPlugins[] = {
     {.name = "FILE",
@@ -177,14 +176,12 @@ constexpr Argument kSearch[] = {
      .value = Switch<&SearchOptions::includeSubfolders, false>},
     kProgress<&SearchOptions::showProgress>};
 
-constexpr Argument kInstalled[] = {
-    {.name = "--wine-prefix",
-     .valueName = "DIR",
-     .help = "The Wine prefix whose DirectX plug-ins are listed (default: WINEPREFIX, else "
-             "~/.wine)",
-     .value = Folder<&InstalledOptions::winePrefix>,
-     .isOffered = platform::HasWinePrefixes},
-    kProgress<&InstalledOptions::showProgress>};
+constexpr Argument kInstalled[] = {{.name = kWinePrefixOption.name,
+                                    .valueName = kWinePrefixOption.valueName,
+                                    .help = kWinePrefixOption.help,
+                                    .value = Folder<&InstalledOptions::winePrefix>,
+                                    .isOffered = platform::HasWinePrefixes},
+                                   kProgress<&InstalledOptions::showProgress>};
 
 constexpr Argument kReport[] = {
     {.name = "REPORT",

@@ -1,14 +1,13 @@
 #include <iostream>
-#include <memory>
 #include <string>
 #include <system_error>
 
+#include "app/StartOptions.h"
 #include "app/cli/CommandSupport.h"
 #include "app/cli/Commands.h"
 #include "app/cli/TerminalWindow.h"
 #include "inventory/InstalledPlugins.h"
 #include "inventory/VstFolders.h"
-#include "platform/Machine.h"
 #include "platform/Terminal.h"
 
 namespace marlo::cli {
@@ -51,14 +50,11 @@ int Refresh(const Environment& environment, bool showProgress) {
 int RunInstalled(const Environment& environment, const InstalledOptions& options) {
     if (!options.winePrefix)
         return Refresh(environment, options.showProgress);
-    std::error_code error;
-    const auto registry = platform::OpenWinePrefix(*options.winePrefix, error);
-    if (!registry)
-        return Complain(
-            "installed", kFailed,
-            *options.winePrefix + ": no Wine prefix that can be read (" + error.message() + ")");
+    const OpenedRegistry registry = OpenRegistry(options.winePrefix);
+    if (!registry.failure.empty())
+        return Complain("installed", kFailed, registry.failure);
     return Refresh(
-        {environment.applicationFolder, environment.clock, environment.desktop, *registry},
+        {environment.applicationFolder, environment.clock, environment.desktop, registry.Get()},
         options.showProgress);
 }
 

@@ -6,6 +6,7 @@
 
 #include "app/cli/TerminalText.h"
 #include "platform/Terminal.h"
+#include "platform/Utf8.h"
 
 namespace marlo::cli {
 
@@ -18,9 +19,8 @@ constexpr std::size_t kMaxProcedureLength = 300;
 std::string Shortened(std::string_view text) {
     if (text.size() <= kMaxProcedureLength)
         return std::string(text);
-    const auto continues = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; };
     std::size_t length = kMaxProcedureLength;
-    while (length > 0 && continues(text[length]))
+    while (length > 0 && platform::ContinuesCharacter(text[length]))
         --length;
     return std::string(text.substr(0, length)) + " ...";
 }

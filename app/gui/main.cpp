@@ -1,5 +1,4 @@
 #include <exception>
-#include <memory>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -10,6 +9,7 @@
 #include <CLI/CLI.hpp>
 
 #include "app/ApplicationFolder.h"
+#include "app/StartOptions.h"
 #include "app/cli/TerminalText.h"
 #include "app/gui/Form1Window.h"
 #include "app/gui/GuiApp.h"
@@ -26,7 +26,7 @@ namespace {
 /// What the program was started with.
 struct Options {
     std::optional<std::string> applicationFolder;
-    std::string winePrefix;  ///< empty for the user's own
+    std::optional<std::string> winePrefix;  ///< nothing for the user's own
 };
 
 /// Where the help and donation pages are: on a web site, or in a folder that is looked for as the
@@ -105,22 +105,14 @@ int Run(const Options& options, char* programName) {
             Run(new RefusingApp("Marlo cannot start: " + folder.failure + "."), programName);
         return 1;
     }
-    std::error_code error;
-    std::unique_ptr<platform::Registry> prefix;
-    if (!options.winePrefix.empty()) {
-        prefix = platform::OpenWinePrefix(options.winePrefix, error);
-        if (!prefix)
-            return Complain(options.winePrefix + ": no Wine prefix that can be read (" +
-                            error.message() + ")");
-    }
+    const OpenedRegistry registry = OpenRegistry(options.winePrefix);
+    if (!registry.failure.empty())
+        return Complain(registry.failure);
     std::string warning;
     for (const std::string& sentence : folder.warnings)
         warning += (warning.empty() ? "" : "\n\n") + sentence;
-    const Application application{folder.path,
-                                  platform::SystemClock(),
-                                  platform::SystemDesktop(),
-                                  prefix ? *prefix : platform::SystemRegistry(),
-                                  {}};
+    const Application application{
+        folder.path, platform::SystemClock(), platform::SystemDesktop(), registry.Get(), {}};
     return Run(new MarloApp(application, std::move(warning)), programName);
 }
 
@@ -134,17 +126,12 @@ int RunCommandLine(int argc, char** argv) {
     // A path may begin with a slash on every system.
     commandLine.allow_windows_style_options(false);
     commandLine.set_version_flag("--version", "marlo " MARLO_VERSION);
-    commandLine
-        .add_option("--app-folder", options.applicationFolder,
-                    "The application folder, with settings.ini and resultfiles in it (default: the "
-                    "program's own folder; for an installed program ~/.local/share/marlo)")
-        ->type_name("DIR");
+    const auto add = [&](const OptionText& option, std::optional<std::string>& value) {
+        commandLine.add_option(option.name, value, option.help)->type_name(option.valueName);
+    };
+    add(kAppFolderOption, options.applicationFolder);
     if (platform::HasWinePrefixes())
-        commandLine
-            .add_option("--wine-prefix", options.winePrefix,
-                        "The Wine prefix whose DirectX plug-ins are listed (default: WINEPREFIX, "
-                        "else ~/.wine)")
-            ->type_name("DIR");
+        add(kWinePrefixOption, options.winePrefix);
     commandLine.footer("The terminal program is marlo-cli.");
     try {
         commandLine.parse(argc, argv);

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <utility>
 
+#include "platform/Ascii.h"
 #include "platform/linux/Gio.h"
 #include "platform/linux/PosixError.h"
 
@@ -11,24 +12,16 @@ namespace marlo::platform {
 
 namespace {
 
-bool EndsWithIgnoringCase(const std::string& path, std::string_view lowerCaseExtension) {
-    if (path.size() < lowerCaseExtension.size())
-        return false;
-    const std::size_t start = path.size() - lowerCaseExtension.size();
-    for (std::size_t i = 0; i < lowerCaseExtension.size(); ++i) {
-        const char c = path[start + i];
-        const char lower = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-        if (lower != lowerCaseExtension[i])
-            return false;
-    }
-    return true;
-}
-
 /// The description that a file gets by its name alone.
 std::string DescriptionOf(const std::string& path) {
-    if (EndsWithIgnoringCase(path, ".cpr"))
+    constexpr std::size_t extensionLength = 4;
+    if (path.size() < extensionLength)
+        return "";
+    const std::string extension =
+        UpperAscii(std::string_view(path).substr(path.size() - extensionLength));
+    if (extension == ".CPR")
         return "CPR File";
-    return EndsWithIgnoringCase(path, ".dll") ? "Application Extension" : "";
+    return extension == ".DLL" ? "Application Extension" : "";
 }
 
 // The shell's answers.

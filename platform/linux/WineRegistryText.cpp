@@ -221,7 +221,7 @@ std::optional<std::string> TakeName(std::string_view& line) {
 
 /// Whether a character of UTF-8 goes on at `position`.
 bool IsContinuation(std::string_view text, std::size_t position) {
-    return position < text.size() && (static_cast<unsigned char>(text[position]) & 0xC0U) == 0x80;
+    return position < text.size() && ContinuesCharacter(text[position]);
 }
 
 /// A character's place in the registry's order. The separator comes first, so that what lies below

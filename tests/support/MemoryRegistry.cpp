@@ -3,18 +3,13 @@
 #include <algorithm>
 #include <iterator>
 
+#include "platform/Ascii.h"
+
 namespace marlo::test {
 
 namespace {
 
 using namespace platform::registry_result;
-
-std::string Upper(std::string name) {
-    std::transform(name.begin(), name.end(), name.begin(), [](char c) {
-        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    });
-    return name;
-}
 
 std::vector<std::string> Steps(const std::string& path) {
     std::vector<std::string> steps;
@@ -31,7 +26,7 @@ std::vector<std::string> Steps(const std::string& path) {
 MemoryRegistry::Key& MemoryRegistry::Make(platform::RegistryKey hive, const std::string& path) {
     Key* key = &hives_[hive];
     for (const std::string& step : Steps(path)) {
-        key = &key->subkeys[Upper(step)];
+        key = &key->subkeys[platform::UpperAscii(step)];
         if (key->name.empty())
             key->name = step;
     }
@@ -40,7 +35,7 @@ MemoryRegistry::Key& MemoryRegistry::Make(platform::RegistryKey hive, const std:
 
 void MemoryRegistry::Set(platform::RegistryKey hive, const std::string& path,
                          const std::string& name, std::int32_t type, Bytes data) {
-    Make(hive, path).values[Upper(name)] = {type, std::move(data)};
+    Make(hive, path).values[platform::UpperAscii(name)] = {type, std::move(data)};
 }
 
 void MemoryRegistry::SetText(platform::RegistryKey hive, const std::string& path,
@@ -75,7 +70,7 @@ std::int32_t MemoryRegistry::OpenKey(platform::RegistryKey parent, const std::st
     for (const std::string& step : Steps(path)) {
         if (key == nullptr)
             return kFileNotFound;
-        const auto found = key->subkeys.find(Upper(step));
+        const auto found = key->subkeys.find(platform::UpperAscii(step));
         key = found == key->subkeys.end() ? nullptr : &found->second;
     }
     if (key == nullptr)
@@ -93,7 +88,7 @@ std::int32_t MemoryRegistry::QueryValue(platform::RegistryKey key, const std::st
     const Key* const found = Find(key);
     if (found == nullptr)
         return kInvalidHandle;
-    const auto value = found->values.find(Upper(name));
+    const auto value = found->values.find(platform::UpperAscii(name));
     if (value == found->values.end())
         return kFileNotFound;
     const Bytes& data = value->second.data;

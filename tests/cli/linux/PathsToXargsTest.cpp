@@ -7,7 +7,7 @@
 
 #include "app/cli/ListOutput.h"
 #include "app/cli/TerminalWindow.h"
-#include "reports/ColumnTitles.h"
+#include "reports/Columns.h"
 #include "tests/cli/ReportCommandTest.h"
 #include "tests/support/ApplicationTest.h"
 
