@@ -45,18 +45,14 @@ std::unique_ptr<BlockReader::Memory>& BlockReader::SpareMemory() {
 const BlockReader::Block& BlockReader::SwitchTo(Position position) {
     if (position < 1)
         throw RunTimeError(ErrorNumber::BadRecordNumber);
+    Block& other = current_ == blocks_.data() ? blocks_.back() : blocks_.front();
     const Position first = StartOfBlockWith(position);
-    auto* block = std::find_if(blocks_.begin(), blocks_.end(),
-                               [&](const Block& candidate) { return candidate.first == first; });
-    if (block == blocks_.end()) {
-        block = std::min_element(
-            blocks_.begin(), blocks_.end(),
-            [](const Block& left, const Block& right) { return left.lastUse < right.lastUse; });
-        Load(*block, first);
+    if (current_->first != first) {
+        current_ = &other;
+        if (other.first != first)
+            Load(other, first);
     }
-    block->lastUse = ++uses_;
-    current_ = block;
-    return *block;
+    return *current_;
 }
 
 void BlockReader::Load(Block& block, Position first) {

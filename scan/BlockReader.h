@@ -66,9 +66,8 @@ class BlockReader {
         std::array<std::array<unsigned char, kBlockSize>, kBlockCount> blocks;
     };
     struct Block {
-        Position first = 0;         ///< the position of its first byte; 0 = not loaded
-        Position end = 0;           ///< the position after its last byte
-        std::uint64_t lastUse = 0;  ///< the highest was used last
+        Position first = 0;  ///< the position of its first byte; 0 = not loaded
+        Position end = 0;    ///< the position after its last byte
         unsigned char* bytes = nullptr;
 
         const unsigned char* AddressOf(Position position) const {
@@ -89,7 +88,6 @@ class BlockReader {
     std::unique_ptr<Memory> memory_;
     std::array<Block, kBlockCount> blocks_;
     Block* current_ = blocks_.data();
-    std::uint64_t uses_ = 0;
 };
 
 }  // namespace marlo

@@ -71,15 +71,8 @@ const unsigned char* FindPortably(const unsigned char* first, const unsigned cha
     return Find(first, last);
 }
 
-[[gnu::target("avx512bw")]] const unsigned char* FindWithAvx512(const unsigned char* first,
-                                                                const unsigned char* last) {
-    return Find(first, last);
-}
-
 std::vector<MarkerSearch> SearchesOfProcessor() {
     std::vector<MarkerSearch> searches;
-    if (__builtin_cpu_supports("avx512bw"))
-        searches.push_back(FindWithAvx512);
     if (__builtin_cpu_supports("avx2"))
         searches.push_back(FindWithAvx2);
     searches.push_back(FindPortably);
