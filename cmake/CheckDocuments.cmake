@@ -1,0 +1,37 @@
+# Fails when a document names a test that there is not, as `SuiteTest.Name`.
+# Usage: cmake -D DOCUMENTS=<folder> -D TESTS=<folder of the tests> -P CheckDocuments.cmake
+
+cmake_minimum_required(VERSION 3.25)
+
+set(tests "")
+file(GLOB_RECURSE sources "${TESTS}/*.cpp")
+foreach(source IN LISTS sources)
+  file(STRINGS "${source}" lines REGEX "^TEST(_F)?\\(")
+  foreach(line IN LISTS lines)
+    string(REGEX REPLACE "^TEST(_F)?\\(([A-Za-z0-9]+), ([A-Za-z0-9]+).*$" "\\2.\\3" test "${line}")
+    list(APPEND tests "${test}")
+  endforeach()
+endforeach()
+
+set(checked 0)
+set(unknown "")
+file(GLOB documents RELATIVE "${DOCUMENTS}" "${DOCUMENTS}/*.md")
+foreach(document IN LISTS documents)
+  file(READ "${DOCUMENTS}/${document}" text)
+  string(REGEX MATCHALL "`[A-Z][A-Za-z0-9]*Test\\.[A-Z][A-Za-z0-9]*`" names "${text}")
+  foreach(name IN LISTS names)
+    math(EXPR checked "${checked} + 1")
+    string(REPLACE "`" "" name "${name}")
+    if(NOT name IN_LIST tests)
+      string(APPEND unknown "\n  ${document}: ${name}")
+    endif()
+  endforeach()
+endforeach()
+
+if(checked EQUAL 0)
+  message(FATAL_ERROR "no document in ${DOCUMENTS} names a test")
+endif()
+if(unknown)
+  message(FATAL_ERROR "there are no such tests:${unknown}")
+endif()
+message(STATUS "${checked} names of tests are right")
