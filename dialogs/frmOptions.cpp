@@ -77,7 +77,7 @@ void frmOptions::Form_Load() {
         parts_.view.Show(state_);
         if (!areDistinct)
             throw RunTimeError(ErrorNumber::KeyNotUnique);
-        parts_.view.ShadePaths();
+        ShadePaths();
         const std::string program = getSetting(application_, setting::kCsvProgram);
         SelectTab(0);
         LoadImageIntoCombo(program);
@@ -105,6 +105,12 @@ void frmOptions::Tabs_Click(int tab) {
         Tell(parts_.view, "An unexpected error occurred");
 }
 
+void frmOptions::ShadePaths() {
+    parts_.view.AutoSizeListViewColumns();
+    SetListViewLedger(application_, state_.LstPaths, parts_.view.Ledger(), kLedgerBar1, kLedgerBar2,
+                      ledger::kIcons);
+}
+
 void frmOptions::SelectPath(std::size_t position) {
     if (position >= 1 && position <= state_.LstPaths.RowCount())
         state_.LstPaths.Select(position);
@@ -123,7 +129,7 @@ void frmOptions::cmdAdd_Click() {
             return;
         }
         parts_.view.Show(state_);
-        parts_.view.ShadePaths();
+        ShadePaths();
     });
     if (!completed)
         Tell(parts_.view, "An unexpected error occurred. Clear the list and try again.");

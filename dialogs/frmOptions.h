@@ -8,6 +8,7 @@
 #include "dialogs/FileBrowser.h"
 #include "dialogs/FolderBrowser.h"
 #include "dialogs/GetIcons.h"
+#include "reports/AlternateColourOnListview.h"
 #include "reports/ResultList.h"
 
 namespace marlo {
@@ -33,8 +34,10 @@ class OptionsView {
 
     /// Brings the controls in line with the state, which has changed.
     virtual void Show(const OptionsState& state) = 0;
-    /// Gives `LstPaths` its alternating row colours, and fits its column.
-    virtual void ShadePaths() = 0;
+    /// Fits the column of `LstPaths` to its texts.
+    virtual void AutoSizeListViewColumns() = 0;
+    /// What shows `LstPaths`, for its row colours.
+    virtual LedgerView& Ledger() = 0;
     virtual MessageAnswer ShowMessage(const Message& message) = 0;
     virtual void Close() = 0;
 };
@@ -62,6 +65,10 @@ class frmOptions {
     void Form_Load();
     /// @param tab the tab that the user has selected, 0-based.
     void Tabs_Click(int tab);
+    /// Fits the column of `LstPaths` and gives its rows their alternating colours, as opening and
+    /// adding do; to be called on a screen where texts have another size. A column that cannot be
+    /// fitted is the caller's failure.
+    void ShadePaths();
 
     // What the user does in the controls themselves, which show it already. These do not fail.
 

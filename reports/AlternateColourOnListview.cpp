@@ -1,5 +1,7 @@
 #include "reports/AlternateColourOnListview.h"
 
+#include "core/ErrorLog.h"
+
 namespace marlo {
 
 std::int32_t LedgerBandHeight(std::int32_t textHeight, std::int32_t twipsPerPixel,
@@ -17,6 +19,20 @@ std::int32_t LedgerBandHeight(std::int32_t textHeight, std::int32_t twipsPerPixe
             return textHeight + (imageHeight - textPixels) * twipsPerPixel + twipsPerPixel;
         default:
             return textHeight;
+    }
+}
+
+void SetListViewLedger(const Application& application, ResultList& list, LedgerView& view,
+                       std::int32_t bar1Colour, std::int32_t bar2Colour, std::int32_t sizingKind) {
+    const bool isShaded = RunGuarded(application, "SetListViewLedger", [&] {
+        list.SetVisible(true);
+        view.SetLedger(bar1Colour, bar2Colour, sizingKind);
+    });
+    if (isShaded)
+        return;
+    try {
+        view.RemoveLedger();
+    } catch (...) {  // NOLINT(bugprone-empty-catch): the failure behind it is logged.
     }
 }
 

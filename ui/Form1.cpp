@@ -307,12 +307,8 @@ void Form1::AutoSizeListViewColumns() {
 
 void Form1::SetListViewLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
                               std::int32_t sizingKind) {
-    const bool isShaded = RunGuarded(application_, "SetListViewLedger", [&] {
-        pane_.lstSongs.SetVisible(true);
-        view_.SetListViewLedger(bar1Colour, bar2Colour, sizingKind);
-    });
-    if (!isShaded)
-        IgnoreFailures([&] { view_.RemoveListViewLedger(); });
+    marlo::SetListViewLedger(application_, pane_.lstSongs, view_.Ledger(), bar1Colour, bar2Colour,
+                             sizingKind);
 }
 
 void Form1::DisableButtons() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -9,6 +8,7 @@
 #include "core/MainWindow.h"
 #include "dialogs/FolderBrowser.h"
 #include "dialogs/GetIcons.h"
+#include "reports/AlternateColourOnListview.h"
 #include "ui/CommandItems.h"
 #include "ui/FormLayout.h"
 
@@ -81,12 +81,10 @@ class FormView {
     virtual void LetEventsRun() = 0;
     virtual void SetHourglass(bool isShown) = 0;
     virtual void AutoSizeListViewColumns() = 0;
-    virtual void SetListViewLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
-                                   std::int32_t sizingKind) = 0;
     virtual MessageAnswer ShowMessage(const Message& message) = 0;
 
-    /// Takes the shading of the result list's rows away.
-    virtual void RemoveListViewLedger() = 0;
+    /// What shows the result list, for the shading of its rows.
+    virtual LedgerView& Ledger() = 0;
 
     /// The folder picker, which is shown over the window.
     virtual FolderChooser& Folders() = 0;

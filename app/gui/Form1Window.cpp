@@ -356,15 +356,6 @@ void Form1Window::AutoSizeListViewColumns() {
     controls_.lstSongs->AutoSizeColumns();
 }
 
-void Form1Window::SetListViewLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
-                                    std::int32_t sizingKind) {
-    controls_.lstSongs->SetLedger(bar1Colour, bar2Colour, sizingKind);
-}
-
-void Form1Window::RemoveListViewLedger() {
-    controls_.lstSongs->RemoveLedger();
-}
-
 MessageAnswer Form1Window::ShowMessage(const Message& message) {
     const UserIsAsked asked(*this);
     return ShowMessageBox(this, message);

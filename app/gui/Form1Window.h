@@ -55,9 +55,7 @@ class Form1Window final : public wxFrame, private FormView {
     void LetEventsRun() override;
     void SetHourglass(bool isShown) override;
     void AutoSizeListViewColumns() override;
-    void SetListViewLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
-                           std::int32_t sizingKind) override;
-    void RemoveListViewLedger() override;
+    LedgerView& Ledger() override { return *controls_.lstSongs; }
     MessageAnswer ShowMessage(const Message& message) override;
     FolderChooser& Folders() override { return folders_; }
     void ShowOptions() override;

@@ -6,13 +6,14 @@
 #include <vector>
 #include <wx/listctrl.h>
 
+#include "reports/AlternateColourOnListview.h"
 #include "reports/ResultList.h"
 
 namespace marlo::gui {
 
 /// Shows a list's model, without rows of its own: the rows in two bands of colour in turn, greyed
 /// ones in grey.
-class LedgerList final : public wxListCtrl {
+class LedgerList final : public wxListCtrl, public LedgerView {
   public:
     /// @param rows outlives this.
     LedgerList(wxWindow* parent, const wxString& name, const ResultList& rows, const wxSize& size,
@@ -27,10 +28,10 @@ class LedgerList final : public wxListCtrl {
     /// path needs.
     void AutoSizeColumns();
 
-    /// Shades the rows (see reports/AlternateColourOnListview.h), with bands as high as the sizing
-    /// kind calls for where the toolkit lets them.
-    void SetLedger(std::int32_t bar1Colour, std::int32_t bar2Colour, std::int32_t sizingKind);
-    void RemoveLedger();
+    /// With bands as high as the sizing kind calls for, where the toolkit lets them.
+    void SetLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
+                   std::int32_t sizingKind) override;
+    void RemoveLedger() override;
 
     /// The positions of the selected rows, 1-based, from the top.
     std::vector<std::size_t> SelectedPositions() const;

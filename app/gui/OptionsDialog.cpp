@@ -13,7 +13,6 @@
 #include "app/gui/TextConversion.h"
 #include "app/gui/TwipScale.h"
 #include "platform/Toolkit.h"
-#include "reports/AlternateColourOnListview.h"
 
 namespace marlo::gui {
 
@@ -252,12 +251,7 @@ void OptionsDialog::LayOut() {
 void OptionsDialog::FollowScreen() {
     Picture1_.Redraw();
     Show(logic_.State());
-    ShadePaths();
-}
-
-void OptionsDialog::ShadePaths() {
-    lstPaths_->AutoSizeColumns();
-    lstPaths_->SetLedger(kLedgerBar1, kLedgerBar2, ledger::kIcons);
+    logic_.ShadePaths();
 }
 
 MessageAnswer OptionsDialog::ShowMessage(const Message& message) {

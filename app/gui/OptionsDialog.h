@@ -31,7 +31,8 @@ class OptionsDialog final : public wxDialog, private OptionsView {
 
   private:
     void Show(const OptionsState& state) override;
-    void ShadePaths() override;
+    void AutoSizeListViewColumns() override { lstPaths_->AutoSizeColumns(); }
+    LedgerView& Ledger() override { return *lstPaths_; }
     MessageAnswer ShowMessage(const Message& message) override;
     void Close() override;
     using wxDialog::Close;

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <ostream>
+#include <sstream>
 
 #include "core/RunTimeError.h"
 #include "core/Settings.h"
@@ -82,9 +83,17 @@ void FakeOptionsView::Show(const OptionsState& state) {
     shown = ShownAs(state);
 }
 
-void FakeOptionsView::ShadePaths() {
-    events.emplace_back("ShadePaths");
-    Call(onShade);
+void FakeOptionsView::AutoSizeListViewColumns() {
+    events.emplace_back("AutoSizeListViewColumns");
+    Call(onAutoSize);
+}
+
+void FakeOptionsView::SetLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
+                                std::int32_t sizingKind) {
+    std::ostringstream event;
+    event << "SetLedger " << std::hex << bar1Colour << " " << bar2Colour << " " << sizingKind;
+    events.push_back(event.str());
+    Call(onSetLedger);
 }
 
 MessageAnswer FakeOptionsView::ShowMessage(const Message& message) {

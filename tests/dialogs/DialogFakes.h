@@ -57,12 +57,13 @@ void PrintTo(const ShownOptions& shown, std::ostream* out);
 /// icon is not the first.
 ShownOptions ShownAs(const OptionsState& state);
 
-/// A dialog that writes down what it is asked, in `events`: "Show", "ShadePaths",
-/// "Message: <text>", "Close".
-class FakeOptionsView final : public OptionsView {
+/// A dialog that writes down what it is asked, in `events`: "Show", "AutoSizeListViewColumns",
+/// "SetLedger <colours in hexadecimal> <sizing kind>", "RemoveLedger", "Message: <text>", "Close".
+class FakeOptionsView final : public OptionsView, private LedgerView {
   public:
     void Show(const OptionsState& state) override;
-    void ShadePaths() override;
+    void AutoSizeListViewColumns() override;
+    LedgerView& Ledger() override { return *this; }
     MessageAnswer ShowMessage(const Message& message) override;
     void Close() override;
 
@@ -71,9 +72,18 @@ class FakeOptionsView final : public OptionsView {
     ShownOptions shown;
     /// Called in the routines of these names, so that a test can look around or fail.
     std::function<void()> onShow;
-    std::function<void()> onShade;
+    std::function<void()> onAutoSize;
+    std::function<void()> onSetLedger;
     std::function<void()> onClose;
+
+  private:
+    void SetLedger(std::int32_t bar1Colour, std::int32_t bar2Colour,
+                   std::int32_t sizingKind) override;
+    void RemoveLedger() override { events.emplace_back("RemoveLedger"); }
 };
+
+/// How a dialog is asked to shade its rows.
+inline constexpr const char* kSetLedger = "SetLedger ffffff fff3ef 2";
 
 /// A test with an Options dialog.
 class OptionsTestBase : public ApplicationTest {

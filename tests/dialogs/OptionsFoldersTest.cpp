@@ -44,7 +44,7 @@ TEST_F(OptionsFoldersTest, AFolderIsAskedForWithoutOneToStartAt) {
 TEST_F(OptionsFoldersTest, AFolderIsAddedAtTheEndAndTheListIsShadedAgain) {
     Add("/aa");
     EXPECT_EQ(view.shown.folders, (Texts{"/a", "/b", "/c", "/aa"}));
-    EXPECT_EQ(view.events, (Texts{"Show", "ShadePaths"}));
+    EXPECT_EQ(view.events, (Texts{"Show", "AutoSizeListViewColumns", test::kSetLedger}));
 }
 
 TEST_F(OptionsFoldersTest, ACancelAddsNothing) {
@@ -76,10 +76,19 @@ TEST_F(OptionsFoldersTest, APickerThatFailsAddsNothing) {
 }
 
 TEST_F(OptionsFoldersTest, AFailureOfAddingIsLoggedAndTold) {
-    view.onShade = Fail;
+    view.onAutoSize = Fail;
     Add("/d");
     ExpectMessage("An unexpected error occurred. Clear the list and try again.");
     EXPECT_EQ(Log(), LogLine("frmOptions:cmdAdd_Click", 70, "Permission denied"));
+}
+
+TEST_F(OptionsFoldersTest, RowColoursThatFailAreLoggedUnderTheirOwnNameAndNoFailureOfAdding) {
+    view.onSetLedger = Fail;
+    Add("/d");
+    EXPECT_EQ(view.shown.folders, (Texts{"/a", "/b", "/c", "/d"}));
+    EXPECT_EQ(view.events.back(), "RemoveLedger");
+    EXPECT_TRUE(view.messages.empty());
+    EXPECT_EQ(Log(), LogLine("SetListViewLedger", 70, "Permission denied"));
 }
 
 TEST_F(OptionsFoldersTest, TheSelectedFolderIsRemovedWithoutAQuestion) {

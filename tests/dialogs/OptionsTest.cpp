@@ -83,7 +83,7 @@ TEST_F(OptionsOpeningTest, TheFoldersEndAtTheFirstEmptySetting) {
 TEST_F(OptionsOpeningTest, TheFoldersAreShadedOnceTheyAreShown) {
     WriteFolders({"/a"});
     Texts folders;
-    view.onShade = [&] { folders = view.shown.folders; };
+    view.onSetLedger = [&] { folders = view.shown.folders; };
     options.Form_Load();
     EXPECT_EQ(folders, Texts{"/a"});
 }
@@ -156,13 +156,27 @@ TEST_F(OptionsOpeningTest, AFolderThatTheSettingsHoldTwiceEndsIt) {
 
 TEST_F(OptionsOpeningTest, AFailureIsLoggedAndToldWithoutAFullStopAndEndsIt) {
     WriteSetting(application, 4, "/bin/sheet");
-    view.onShade = Fail;
+    view.onAutoSize = Fail;
     options.Form_Load();
     ExpectMessage("An unexpected error occurred");
     EXPECT_EQ(Log(), LogLine("frmOptions:Form_Load", 70, "Permission denied"));
     EXPECT_EQ(options.State().lblHeader, "");
     EXPECT_EQ(options.State().imgcboPath, "");
     EXPECT_EQ(options.State().Label2, "");
+}
+
+TEST_F(OptionsOpeningTest, RowColoursThatFailAreLoggedUnderTheirOwnNameAndTheRestIsShown) {
+    WriteFolders({"/a"});
+    WriteSetting(application, 4, "/bin/sheet");
+    view.onSetLedger = Fail;
+    options.Form_Load();
+    EXPECT_EQ(Log(), LogLine("SetListViewLedger", 70, "Permission denied"));
+    EXPECT_EQ(view.events.at(2), test::kSetLedger);
+    EXPECT_EQ(view.events.at(3), "RemoveLedger");
+    EXPECT_TRUE(view.messages.empty());
+    EXPECT_EQ(view.shown.folders, Texts{"/a"});
+    EXPECT_EQ(view.shown.program, "/bin/sheet");
+    EXPECT_EQ(view.shown.note, kNote);
 }
 
 TEST_F(OptionsOpeningTest, AProgramThatCannotBeShownIsLoggedOnlyAndTheRestIsShown) {

@@ -14,7 +14,7 @@ namespace marlo::test {
 
 /// A main window without a screen. `events` has a line for each thing asked of it that a person
 /// would see happen; what it shows is in the members.
-class FakeFormView final : public FormView {
+class FakeFormView final : public FormView, private LedgerView {
   public:
     void Show(const FormState& newState) override {
         FailIf("Show");
@@ -60,12 +60,7 @@ class FakeFormView final : public FormView {
         events.emplace_back("AutoSizeListViewColumns");
         FailIf("AutoSizeListViewColumns");
     }
-    void SetListViewLedger(std::int32_t /*bar1Colour*/, std::int32_t /*bar2Colour*/,
-                           std::int32_t /*sizingKind*/) override {
-        events.emplace_back("SetListViewLedger");
-        FailIf("SetListViewLedger");
-    }
-    void RemoveListViewLedger() override { events.emplace_back("RemoveListViewLedger"); }
+    LedgerView& Ledger() override { return *this; }
     MessageAnswer ShowMessage(const Message& message) override {
         messages.push_back(message);
         FailIf("ShowMessage");
@@ -103,6 +98,13 @@ class FakeFormView final : public FormView {
     std::vector<Message> messages;
 
   private:
+    void SetLedger(std::int32_t /*bar1Colour*/, std::int32_t /*bar2Colour*/,
+                   std::int32_t /*sizingKind*/) override {
+        events.emplace_back("SetLedger");
+        FailIf("SetLedger");
+    }
+    void RemoveLedger() override { events.emplace_back("RemoveLedger"); }
+
     void FailIf(const std::string& routine) const {
         if (failing == routine)
             throw RunTimeError(ErrorNumber::InvalidProcedureCall);

@@ -75,9 +75,8 @@ TEST_F(Form1FindTest, EnterWhileASearchIsRunningDoesNothing) {
 TEST_F(Form1FindTest, TheWindowIsRepaintedUnderAnHourglass) {
     view.events.clear();
     form.cmdFind_Click();
-    EXPECT_EQ(view.events,
-              (test::Texts{"Hourglass", "ShowList", "Repaint", "Usual pointer",
-                           "AutoSizeListViewColumns", "SetListViewLedger", "ShowList"}));
+    EXPECT_EQ(view.events, (test::Texts{"Hourglass", "ShowList", "Repaint", "Usual pointer",
+                                        "AutoSizeListViewColumns", "SetLedger", "ShowList"}));
 }
 
 TEST_F(Form1FindTest, AHeaderClickSortsAndShowsTheList) {

@@ -40,7 +40,7 @@ TEST_F(Form1ResizeTest, AListWithRowsIsShadedAgain) {
     form.lstSongs().AddColumn("Used Plugins");
     form.lstSongs().AddRow("a", "a");
     form.Form_Resize();
-    EXPECT_EQ(view.events, (test::Texts{"Place", "AutoSizeListViewColumns", "SetListViewLedger"}));
+    EXPECT_EQ(view.events, (test::Texts{"Place", "AutoSizeListViewColumns", "SetLedger"}));
 }
 
 TEST_F(Form1ResizeTest, AStepThatFailsIsPassedOver) {
@@ -50,16 +50,16 @@ TEST_F(Form1ResizeTest, AStepThatFailsIsPassedOver) {
         view.events.clear();
         view.failing = failing;
         form.Form_Resize();
-        EXPECT_EQ(Count("SetListViewLedger"), 1U) << failing;
+        EXPECT_EQ(Count("SetLedger"), 1U) << failing;
     }
     EXPECT_EQ(Log(), "");
     EXPECT_TRUE(view.messages.empty());
 }
 
 TEST_F(Form1ResizeTest, BandsThatCannotBePaintedAreLoggedAndTakenAway) {
-    view.failing = "SetListViewLedger";
+    view.failing = "SetLedger";
     form.SetListViewLedger(0, 0, 2);
-    EXPECT_EQ(view.events, (test::Texts{"SetListViewLedger", "RemoveListViewLedger"}));
+    EXPECT_EQ(view.events, (test::Texts{"SetLedger", "RemoveLedger"}));
     EXPECT_EQ(Log(), LogLine("SetListViewLedger", 5, "Invalid procedure call"));
 }
 
