@@ -77,7 +77,8 @@ class frmOptions {
     void SetIgnoreDX(bool isChecked) { state_.chkIgnoreDX = isChecked; }
     void SetIgnoreOff(bool isChecked) { state_.chkIgnoreOff = isChecked; }
 
-    /// Lets the user choose a folder and adds it. One that is listed already is told, not logged.
+    /// Lets the user choose a folder and adds it. The selected one stays selected. One that is
+    /// listed already is told, not logged.
     void cmdAdd_Click();
     /// Takes the selected folder off the list, and selects the one that moves up, or else the last.
     /// With no folder selected it fails, unless the list is empty.

@@ -76,6 +76,9 @@ void LedgerList::ShowRows(int sortedColumn) {
     if (rows_.Revision() == shownRevision_)
         return;
     shownRevision_ = rows_.Revision();
+    // Those are for what the user selects.
+    wxEventBlocker quiet(this, wxEVT_LIST_ITEM_SELECTED);
+    quiet.Block(wxEVT_LIST_ITEM_DESELECTED);
     ShowHeaders();
     SetItemCount(static_cast<long>(rows_.RowCount()));
     ShowSelection();

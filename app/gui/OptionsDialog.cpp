@@ -192,10 +192,7 @@ void OptionsDialog::BindEvents() {
         button->Bind(wxEVT_BUTTON, [handler](wxCommandEvent&) { handler(); });
     };
     onClick(cmdAdd_, [this] { logic_.cmdAdd_Click(); });
-    onClick(cmdRemove_, [this] {
-        logic_.SelectPath(lstPaths_->ActivePosition());
-        logic_.cmdRemove_Click();
-    });
+    onClick(cmdRemove_, [this] { logic_.cmdRemove_Click(); });
     onClick(cmdTab2Search_, [this] { logic_.cmdTab2Search_Click(); });
     Bind(
         wxEVT_BUTTON, [this](wxCommandEvent&) { logic_.cmdOk_Click(); }, wxID_OK);
@@ -214,6 +211,15 @@ void OptionsDialog::BindEvents() {
         event.Skip();
         CallAfter(&OptionsDialog::FollowScreen);  // in its new size
     });
+    BindListEvents();
+}
+
+void OptionsDialog::BindListEvents() {
+    for (const auto& type : {wxEVT_LIST_ITEM_SELECTED, wxEVT_LIST_ITEM_DESELECTED})
+        lstPaths_->Bind(type, [this](wxListEvent& event) {
+            event.Skip();
+            logic_.SelectPath(lstPaths_->ActivePosition());
+        });
     lstPaths_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         event.Skip();
         lstPaths_->AutoSizeColumns();

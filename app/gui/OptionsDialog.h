@@ -47,6 +47,7 @@ class OptionsDialog final : public wxDialog, private OptionsView {
     wxSizer* CreateInventoryFrame(wxWindow* page);
     wxSizer* AddGrid(wxSizer* frame) const;
     void BindEvents();
+    void BindListEvents();
     void LayOut();
     void FollowScreen();
     int Pixels(int designPixels) const;

@@ -157,6 +157,36 @@ TEST_F(OptionsDialogTest, TheSelectedFolderIsRemoved) {
     EXPECT_EQ(getSetting(application, setting::kFirstVstFolder + 2), "");
 }
 
+TEST_F(OptionsDialogTest, TheFolderThatWasSelectedBeforeAddIsRemoved) {
+    SaveFolders({"/vst/a", "/vst/b"});
+    const std::string added = folder.MakeFolder("plugins");
+    InOptions([&] {
+        SelectPath(1);
+        Add(added);
+        EXPECT_EQ(Paths().ActivePosition(), 2U) << "it stays selected";
+        Click(Part("cmdRemove"));
+        EXPECT_EQ(ShownPaths(), (Folders{"/vst/a", added}));
+        Press(WXK_ESCAPE);
+    });
+    EXPECT_EQ(Log(), "");
+}
+
+TEST_F(OptionsDialogTest, TheFolderThatWasSelectedBetweenRemoveAndAddIsRemoved) {
+    SaveFolders({"/vst/a", "/vst/b", "/vst/c"});
+    const std::string added = folder.MakeFolder("plugins");
+    InOptions([&] {
+        SelectPath(2);
+        Click(Part("cmdRemove"));
+        SelectPath(0);
+        Add(added);
+        EXPECT_EQ(Paths().ActivePosition(), 1U) << "it stays selected";
+        Click(Part("cmdRemove"));
+        EXPECT_EQ(ShownPaths(), (Folders{"/vst/b", added}));
+        Press(WXK_ESCAPE);
+    });
+    EXPECT_EQ(Log(), "");
+}
+
 TEST_F(OptionsDialogTest, RemoveInAnEmptyListDoesNothing) {
     InOptions([&] {
         Click(Part("cmdRemove"));
