@@ -38,7 +38,7 @@ AboutDialog::AboutDialog(wxWindow* mainWindow, const std::string& picture) {
     all->Add(new wxStaticLine(this), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, Pixels(20)));
     all->Add(ok, wxSizerFlags().Right().Border(wxALL, Pixels(16)));
     SetSizerAndFit(all);
-    CentreOverWindow(*mainWindow);
+    StayCentred();
     ok->SetFocus();
 }
 
@@ -90,10 +90,21 @@ wxButton* AboutDialog::CreateOkButton() {
     return ok;
 }
 
-void AboutDialog::CentreOverWindow(const wxWindow& mainWindow) {
-    const WindowPlace place = CentredOver(PlaceOf(mainWindow.GetRect()), PlaceOf(GetRect()));
-    SetPosition(
-        {static_cast<int>(std::lround(place.left)), static_cast<int>(std::lround(place.top))});
+/// Some window managers tell only while they show a dialog how large its frame is, and with it the
+/// dialog. It is centred again then, unless it was moved meanwhile.
+void AboutDialog::StayCentred() {
+    CentreOverWindow();
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        if (GetPosition() == centre_)
+            CentreOverWindow();
+    });
+}
+
+void AboutDialog::CentreOverWindow() {
+    const WindowPlace place = CentredOver(PlaceOf(GetParent()->GetRect()), PlaceOf(GetRect()));
+    centre_ = {static_cast<int>(std::lround(place.left)), static_cast<int>(std::lround(place.top))};
+    Move(centre_, wxSIZE_ALLOW_MINUS_ONE);
 }
 
 }  // namespace marlo::gui

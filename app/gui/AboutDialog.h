@@ -9,7 +9,7 @@ class wxButton;
 
 namespace marlo::gui {
 
-/// The About box, centred over the main window.
+/// The About box, centred over the main window as far as the window manager allows.
 class AboutDialog final : public wxDialog {
   public:
     /// @param picture the path of the decorative picture.
@@ -19,8 +19,11 @@ class AboutDialog final : public wxDialog {
     wxSizer* CreateTexts(const frmAbout& about);
     void AddPicture(wxSizer* row, const std::string& path);
     wxButton* CreateOkButton();
-    void CentreOverWindow(const wxWindow& mainWindow);
+    void StayCentred();
+    void CentreOverWindow();
     int Pixels(int designPixels) const;
+
+    wxPoint centre_;  ///< where it was put last
 };
 
 }  // namespace marlo::gui
