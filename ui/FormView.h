@@ -68,7 +68,7 @@ class FormView {
     /// Stops the calls; without effect when there are none.
     virtual void StopTimer() = 0;
 
-    /// Calls `action` soon, when the window has been painted.
+    /// Calls `action` soon, when the window has been painted; not at all when it is closed before.
     virtual void Later(const std::function<void()>& action) = 0;
 
     /// Takes the window's icons from a file; none when there is no such file.

@@ -22,12 +22,6 @@
 
 namespace marlo::gui {
 
-namespace {
-
-constexpr int kLater = 50;  // milliseconds
-
-}  // namespace
-
 /// While one of these lives, the user is asked something over the window, which has to be there
 /// for the answer: it is closed afterwards when the user, or the system, wants that meanwhile.
 class Form1Window::UserIsAsked {
@@ -39,7 +33,7 @@ class Form1Window::UserIsAsked {
     UserIsAsked& operator=(UserIsAsked&&) = delete;
     ~UserIsAsked() {
         if (--window_.openQuestions_ == 0 && window_.isCloseDue_)
-            window_.closeTimer_.StartOnce(1);  // when what the answer leads to is done
+            wxWakeUpIdle();  // when what the answer leads to is done
     }
 
   private:
@@ -51,8 +45,6 @@ Form1Window::Form1Window(const Application& application, const std::string& help
               wxDefaultSize, wxDEFAULT_FRAME_STYLE, "Form1"),
       application_(application),
       timer1_(this, wxWindow::NewControlId()),
-      laterTimer_(this, wxWindow::NewControlId()),
-      closeTimer_(this, wxWindow::NewControlId()),
       folders_(this),
       csvIcons_{IconBox(*this), IconBox(*this)},
       form_(application, *this, helpSite),
@@ -89,7 +81,8 @@ void Form1Window::FollowScreen() {
 
 void Form1Window::BindEvents() {
     BindWindowEvents();
-    BindTimers();
+    BindTimer();
+    BindIdle();
     BindMouseMoves();
     BindCommands();
     BindListEvents();
@@ -121,18 +114,31 @@ void Form1Window::BindWindowEvents() {
     });
 }
 
-void Form1Window::BindTimers() {
+void Form1Window::BindTimer() {
     Bind(
         wxEVT_TIMER, [this](wxTimerEvent&) { form_.Timer1_Timer(); }, timer1_.GetId());
-    Bind(
-        wxEVT_TIMER,
-        [this](wxTimerEvent&) {
-            for (const auto& action : std::exchange(later_, {}))
-                action();
-        },
-        laterTimer_.GetId());
-    Bind(
-        wxEVT_TIMER, [this](wxTimerEvent&) { wxFrame::Close(); }, closeTimer_.GetId());
+}
+
+void Form1Window::BindIdle() {
+    controls_.background->Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
+        event.Skip();
+        if (!std::exchange(isPainted_, true))
+            wxWakeUpIdle();  // when all that is on it is painted, too
+    });
+    Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+        event.Skip();
+        OnIdle();
+    });
+}
+
+/// Does what waits for this moment. A window that was closed is not told of any.
+void Form1Window::OnIdle() {
+    if (isCloseDue_ && openQuestions_ == 0) {
+        wxFrame::Close();
+    } else if (isPainted_ || IsIconized()) {
+        for (const auto& action : std::exchange(later_, {}))
+            action();
+    }
 }
 
 void Form1Window::BindMouseMoves() {
@@ -321,7 +327,7 @@ void Form1Window::SetProgramIcon(const std::string& path) {
 
 void Form1Window::Later(const std::function<void()>& action) {
     later_.push_back(action);
-    laterTimer_.StartOnce(kLater);
+    wxWakeUpIdle();
 }
 
 void Form1Window::Repaint() {

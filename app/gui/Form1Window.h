@@ -68,13 +68,15 @@ class Form1Window final : public wxFrame, private FormView {
     void FollowScreen();
     void BindEvents();
     void BindWindowEvents();
-    void BindTimers();
+    void BindTimer();
+    void BindIdle();
     void BindMouseMoves();
     void BindCommands();
     void BindListEvents();
     void ShowListMenu();
     void SelectActiveRow();
     void OpenActiveRow();
+    void OnIdle();
     void OnClose(wxCloseEvent& event);
     void OnKey(wxKeyEvent& event);
     void MoveFocusTo(wxWindow* control);
@@ -82,9 +84,8 @@ class Form1Window final : public wxFrame, private FormView {
 
     const Application& application_;
     wxTimer timer1_;
-    wxTimer laterTimer_;
-    wxTimer closeTimer_;
     std::vector<std::function<void()>> later_;
+    bool isPainted_ = false;
     FolderPicker folders_;
     std::array<IconBox, 2> csvIcons_;
     Pace repaintPace_;

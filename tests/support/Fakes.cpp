@@ -72,6 +72,8 @@ std::string FakeDesktop::ShortPath(const std::string& path) const {
 }
 
 std::optional<platform::ShellIcon> FakeDesktop::SmallIcon(const std::string& path) const {
+    if (onSmallIcon)
+        onSmallIcon();
     if (shellFailure)
         std::rethrow_exception(shellFailure);
     const auto found = icons.find(path);

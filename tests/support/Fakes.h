@@ -56,6 +56,8 @@ class FakeDesktop final : public platform::Desktop {
     std::exception_ptr shellFailure;
     /// From a file's path to its icon.
     std::map<std::string, platform::ShellIcon> icons;
+    /// Called when an icon is asked for, if set.
+    std::function<void()> onSmallIcon;
 };
 
 /// A window that writes down what it is asked, in `events`, one line each: "Text1: …",
