@@ -9,8 +9,8 @@ namespace marlo::platform {
 // What the window's toolkit does not tell or do on every system. To be called when the toolkit is
 // running, on its thread.
 
-/// Has the system's fonts looked up on a thread of their own. The first text would wait for that
-/// otherwise, and before it the toolkit has to read its theme.
+/// Has the toolkit's library begin to look the system's fonts up, which it does on a thread of its
+/// own. The first text waits for that, and before it the toolkit has to read its theme.
 void StartReadingFonts();
 
 /// Has the arrows of drop-down lists taken from the toolkit itself where that looks the same.

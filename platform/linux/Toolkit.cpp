@@ -25,7 +25,7 @@ AtkObject* AccessibleOf(void* control) {
 }  // namespace
 
 void StartReadingFonts() {
-    pango_cairo_font_map_get_default();  // starts the thread
+    pango_cairo_font_map_get_default();  // starts its thread
 }
 
 void ShortenWayToArrows() {
