@@ -30,6 +30,7 @@ constexpr std::int32_t kFindMargin = 25;
 constexpr std::int32_t kPaneMargin = 50;
 constexpr std::int32_t kImageMargin = 20;
 constexpr std::int32_t kMenuBottomMargin = 150;
+constexpr std::int32_t kCableMargin = 100;
 constexpr std::int32_t kFocusMargin = 55;  // for the ring around the item with the keyboard
 
 void SetWidth(Place& place, std::int32_t width) {
@@ -94,6 +95,7 @@ void FrameMenu(FormLayout& layout, bool isDonateVisible) {
         isDonateVisible ? layout.btnDonate.Bottom() : layout.cmdbuttons[kAboutItem].Bottom();
     SetHeight(layout.boxMenu, lowest - layout.boxMenu.top + kMenuBottomMargin);
     Fill(layout.imgMenu, layout.boxMenu, kPaneMargin);
+    layout.cableBottom = (isDonateVisible ? layout.btnDonate.top : lowest) - kCableMargin;
     layout.Label5.left = layout.boxMenu.left + layout.boxMenu.width / 4;
     layout.Image1.left = layout.Label5.left + kImageMargin;  // over the blanks in front of "Menu"
 }

@@ -30,6 +30,7 @@ struct FormLayout {
     std::array<Place, kCommandItemCount> cmdbuttons;
     std::array<Place, 2> csvIcons;  ///< beside the items that open a result file
     Place btnDonate;
+    std::int32_t cableBottom = 0;  ///< what hangs in the menu pane's picture ends there or above
     Place boxRightPane;
     Place imgRightPane;
     Place cboSearchType;

@@ -191,10 +191,11 @@ void Form1Controls::ApplyTheme() {
     const auto drawing = [&](const char* name) {
         return Picture(name + std::string(theme.isDark ? "_dark.svg" : ".svg"));
     };
+    // The foot is so low that it fits below the lowest control.
     imgMenu->SetPictures({theme.menuPane, theme.menuPane, 0},
-                         {{drawing("menu_cable"), wxRect(8, 50, 14, 342)},
+                         {{drawing("menu_cable"), wxRect(8, 50, 14, 342), wxTOP, true},
                           {drawing("menu_top"), wxRect(0, 0, 176, 58)},
-                          {drawing("menu_foot"), wxRect(0, -28, 176, 28), wxBOTTOM}});
+                          {drawing("menu_foot"), wxRect(0, -6, 176, 6), wxBOTTOM}});
     imgRightPane->SetPictures({theme.searchBar, theme.rightPane, kSearchBarHeight},
                               {{drawing("waves"), wxRect(200, 0, 600, 100)}});
     label5_->SetColour(theme.heading);
@@ -254,6 +255,7 @@ void Form1Controls::Place(const FormLayout& layout) const {
     const wxPoint right = originOf(layout.imgRightPane);
     PlaceInside(boxMenu_, layout.boxMenu, none);
     PlaceInside(imgMenu, layout.imgMenu, originOf(layout.boxMenu));
+    imgMenu->SetHangingEnd(scale_.Pixels(layout.cableBottom) - menu.y);
     PlaceInside(label5_, layout.Label5, menu);
     PlaceInside(image1_, layout.Image1, menu);
     PlaceInside(btnDonate, layout.btnDonate, menu);

@@ -1,5 +1,6 @@
 #include "app/gui/PicturePanel.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <wx/dcbuffer.h>
@@ -70,6 +71,13 @@ void PicturePanel::SetPictures(const Ground& ground, std::vector<Piece> pieces) 
     Refresh();
 }
 
+void PicturePanel::SetHangingEnd(int y) {
+    if (y == hangingEnd_)
+        return;
+    hangingEnd_ = y;
+    Refresh();
+}
+
 void PicturePanel::PaintBehind(wxDC& dc, const wxPoint& origin) {
     LoadPictures();
     dc.SetBackground(ground_.rest);
@@ -80,13 +88,18 @@ void PicturePanel::PaintBehind(wxDC& dc, const wxPoint& origin) {
         dc.SetBrush(ground_.top);
         dc.DrawRectangle(-origin.x, -origin.y, size.x, DesignPixels(*this, ground_.topHeight));
     }
-    for (std::size_t i = 0; i < pictures_.size(); ++i) {
-        wxPoint place = Enlarged(pieces_[i].drawn).GetTopLeft() - origin;
-        if (pieces_[i].edge == wxBOTTOM)
-            place.y += size.y;
+    for (std::size_t i = 0; i < pictures_.size(); ++i)
         if (pictures_[i].IsOk())
-            dc.DrawBitmap(pictures_[i], place);
-    }
+            dc.DrawBitmap(pictures_[i], PlaceOf(pieces_[i]) - origin);
+}
+
+wxPoint PicturePanel::PlaceOf(const Piece& piece) const {
+    wxPoint place = Enlarged(piece.drawn).GetTopLeft();
+    if (piece.edge == wxBOTTOM)
+        place.y += GetClientSize().y;
+    if (piece.hangs)
+        place.y = std::min(place.y, hangingEnd_ - Enlarged(piece.drawn).height);
+    return place;
 }
 
 wxRect PicturePanel::Enlarged(const wxRect& drawn) const {
@@ -101,9 +114,14 @@ void PicturePanel::LoadPictures() {
     if (GetClientSize().x == loadedFor_)
         return;
     loadedFor_ = GetClientSize().x;
+    // Rounded up: a drawing keeps its shape, and one that is too low would not be wide enough.
+    const auto enlarged = [&](int length) {
+        return (length * loadedFor_ + drawnWidth_ - 1) / drawnWidth_;
+    };
     pictures_.clear();
     for (const Piece& piece : pieces_)
-        pictures_.push_back(LoadPicture(*this, piece.path, Enlarged(piece.drawn).GetSize()));
+        pictures_.push_back(LoadPicture(
+            *this, piece.path, {enlarged(piece.drawn.width), enlarged(piece.drawn.height)}));
 }
 
 wxSize PicturePanel::TextSize(const wxString& text, const wxFont& font) {

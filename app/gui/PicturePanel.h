@@ -21,6 +21,7 @@ struct Piece {
     std::string path;
     wxRect drawn;
     wxDirection edge = wxTOP;  ///< of the panel, which the place counts from
+    bool hangs = false;        ///< moves up, if need be, to end above a line
 };
 
 /// Draws a text in the font and colour of a DC, which would measure it as well.
@@ -34,6 +35,9 @@ class PicturePanel final : public wxPanel {
 
     /// @param pieces from back to front.
     void SetPictures(const Ground& ground, std::vector<Piece> pieces);
+
+    /// @param y the line above which pieces that hang end.
+    void SetHangingEnd(int y);
 
     /// Loads the pictures for the panel's width, which painting would do otherwise.
     void LoadPictures();
@@ -54,12 +58,14 @@ class PicturePanel final : public wxPanel {
   private:
     void Paint();
     wxRect Enlarged(const wxRect& drawn) const;
+    wxPoint PlaceOf(const Piece& piece) const;
     wxRect RingOf(const wxWindow& control) const;
 
     int drawnWidth_;
     Ground ground_;
     std::vector<Piece> pieces_;
     std::vector<wxBitmap> pictures_;
+    int hangingEnd_ = 0;
     int loadedFor_ = 0;
     wxWindow* focused_ = nullptr;
     wxCursor handCursor_;

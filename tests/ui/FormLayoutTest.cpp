@@ -73,6 +73,11 @@ TEST(FormLayoutTest, TheMenuPaneEnds150BelowTheDonateButtonOrBelowAbout) {
     EXPECT_EQ(Layout({9000, 7000}, true).boxMenu.Bottom(), 6000 + 465 + 150) << "whatever the size";
 }
 
+TEST(FormLayoutTest, TheCableInTheMenuPaneEndsAboveTheDonateButtonOrBesideAbout) {
+    EXPECT_EQ(Layout(kDefaultClientSize, true).cableBottom, 6000 - 100);
+    EXPECT_EQ(Layout(kDefaultClientSize, false).cableBottom, 5520 + 195 - 100);
+}
+
 TEST(FormLayoutTest, ThePicturesFillTheirPanesButFor50) {
     const FormLayout layout = Layout(kDefaultClientSize);
     const auto inside = [](const Place& pane) {
