@@ -141,6 +141,13 @@ class Session {
         window_->Logic().Form_MouseMove();
     }
 
+    /// Without the donate button.
+    void ShowAfterAMinute(const std::string& name) {
+        for (int second = 0; second < 60; ++second)
+            window_->Logic().Timer1_Timer();
+        Take(name);
+    }
+
     void ShowRun(const std::string& name) {
         window_->CallAfter([this, name] {
             window_->Update();
@@ -213,6 +220,7 @@ void TakeAll(const std::string& freshFolder, const std::string& filledFolder,
                        "message-exclamation");
     filled.ShowMessage({.text = "Cancelled", .icon = MessageIcon::Information},
                        "message-information");
+    filled.ShowAfterAMinute("main-after-a-minute");
 }
 
 class ScreenshotsApp final : public gui::GuiApp {
