@@ -43,7 +43,7 @@ const bool registered = [] {
               .baseline = [](State& state,
                              std::size_t /*size*/) { RunProgram(state, {MARLO_EMPTY_PROGRAM}); },
               .sizes = {1},
-              .mostRatio = 2,
+              .mostRatio = 5,
               .mostGrowth = 1});
     return true;
 }();

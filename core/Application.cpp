@@ -36,8 +36,8 @@ std::vector<std::string> NamesIn(const std::string& folder, Kind kind) {
     return names;
 }
 
-/// The path of a file or folder in `folder` that may be spelt in any case there. The usual name
-/// goes before others, and among these the first in the order of their bytes.
+/// The path of a file or folder in `folder`, whatever the case of its name. An exact match wins,
+/// then the first name in byte order.
 std::string PathIn(const std::string& folder, std::string_view usualName, Kind kind) {
     std::string usual = platform::JoinPath(folder, usualName);
     if (IsThere(usual, kind))

@@ -32,16 +32,15 @@ struct Application {
 /// The title of message boxes that have none of their own.
 inline constexpr std::string_view kApplicationTitle = "Marlo";
 
-/// The full path of the result folder under an application folder. What is said of the case of
-/// names below goes for it, too.
+/// The full path of the result folder under an application folder, found as `ApplicationPath` finds
+/// files.
 std::string ResultFolder(const std::string& applicationFolder);
 
 /// The full path of a file under the application folder.
 ///
-/// The case of the names carries no meaning: a file and the folder that it is in may be spelt in
-/// any case on the disk, also on a file system that tells cases apart. The usual name goes before
-/// others, and among these the first in the order of their bytes; what is missing has its usual
-/// name.
+/// Files and folders are found whatever the case of their names, also on a case-sensitive file
+/// system. An exact match wins, then the first name in byte order. A missing file or folder gets
+/// its usual name.
 ///
 /// @param relativePath the usual names joined by "\", with a "\" in front, for example
 ///        "\resultfiles\results.csv" (see ResultFileNames.h). The result folder's may be spelt in

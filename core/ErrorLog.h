@@ -15,8 +15,8 @@ namespace marlo {
 /// The line has the time before the date, in the system's formats:
 /// `Date: 03:10:22 15/11/2026 Procedure: getSetting Error No.: 70 Description: Permission denied`,
 /// ended by CR LF. The file is made when it is missing, its folder is not. An entry that cannot be
-/// written is lost without a word, and so is one that the listener fails to take; neither costs the
-/// other.
+/// written is lost silently. The listener hears of it all the same, and one that throws
+/// does not prevent the entry.
 ///
 /// @param procedure the failed routine's fixed text, with whatever context it adds.
 /// @param number the failure's number; 0 is valid.
@@ -48,7 +48,7 @@ bool RunGuarded(const Application& application, Procedure&& procedure, Body&& bo
     }
 }
 
-/// Does what there is nobody to tell of when it fails.
+/// Runs `body` and ignores whatever it throws.
 template <class Body>
 void IgnoreFailures(Body body) noexcept {
     try {

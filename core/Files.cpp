@@ -24,8 +24,8 @@ using Attempt = std::function<void(std::error_code& error)>;
 
 /// Repeats `attempt`, which deletes or replaces the file at `path`, until it succeeds or the user
 /// cancels.
-/// @param answer receives the last button pressed, Cancel when the question failed; stays as it is
-///        when nothing was asked.
+/// @param answer receives the last button pressed, or Cancel if the question fails; unchanged if
+///        nothing is asked.
 void AskUntilFree(MainWindow& window, const std::string& path, MessageAnswer& answer,
                   const Attempt& attempt) {
     for (;;) {

@@ -22,8 +22,8 @@ bool FileExists(const Application& application, const std::string& path);
 /// deletion is reported only through the question.
 ///
 /// @param relativePath the file, with a "\" in front (see `ApplicationPath`).
-/// @param answer receives the last button pressed, and Cancel when the question cannot be asked;
-///        stays as it is when there is nothing to ask.
+/// @param answer receives the last button pressed, or Cancel if the question fails; unchanged if
+///        nothing is asked.
 void AskCloseFileInUse(const Application& application, MainWindow& window,
                        std::string_view relativePath, MessageAnswer& answer);
 
@@ -33,8 +33,8 @@ void AskCloseFileInUse(const Application& application, MainWindow& window,
 ///
 /// As long as the old file is there and nothing may be put in its place, the user is asked to close
 /// whatever program holds it, with the same question as `AskCloseFileInUse`. `Create` and
-/// `MoveIntoPlace` return false when the user cancels; the old file is then as it was. A question
-/// that cannot be asked is nobody's answer: what it throws goes on to the caller.
+/// `MoveIntoPlace` return false when the user cancels; the old file is then unchanged. If the
+/// question itself fails, the exception reaches the caller.
 class StagedFile {
   public:
     /// @param relativePath the file, with a "\" in front (see `ApplicationPath`).

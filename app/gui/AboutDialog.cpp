@@ -90,8 +90,8 @@ wxButton* AboutDialog::CreateOkButton() {
     return ok;
 }
 
-/// Some window managers tell only while they show a dialog how large its frame is, and with it the
-/// dialog. It is centred again then, unless it was moved meanwhile.
+/// Centres the dialog, and centres it again when its size changes: some window managers report the
+/// size of a dialog's frame only after the dialog is shown. A dialog that was moved stays there.
 void AboutDialog::StayCentred() {
     CentreOverWindow();
     Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {

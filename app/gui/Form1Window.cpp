@@ -131,7 +131,8 @@ void Form1Window::BindIdle() {
     });
 }
 
-/// Does what waits for this moment. A window that was closed is not told of any.
+/// Closes the window if that is due, or runs the actions of `Later` once the window is painted. A
+/// window that is being destroyed gets no idle events.
 void Form1Window::OnIdle() {
     if (isCloseDue_ && openQuestions_ == 0) {
         wxFrame::Close();

@@ -19,7 +19,7 @@ class LedgerList final : public wxListCtrl, public LedgerView {
     LedgerList(wxWindow* parent, const wxString& name, const ResultList& rows, const wxSize& size,
                long style);
 
-    /// Brings the control in line with the model. No event tells of a selection that this changes.
+    /// Updates the control from the model. Changes of the selection send no events.
     /// @param sortedColumn the column whose header tells that it orders the rows, 1-based; 0 for
     ///        none.
     void ShowRows(int sortedColumn = 0);
